@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+class IInkChannel;
+
+/// The ink channels of the machine, by layout and by id. Read only.
+class IInkChannelTable
+{
+public:
+    virtual void Reserved0() {} // 0
+    virtual void Reserved1() {} // 1
+    virtual void Reserved2() {} // 2
+    virtual void Reserved3() {} // 3
+    virtual void Reserved4() {} // 4
+    virtual void Reserved5() {} // 5
+
+    /// Colour index, 0 to 15, under which schemes keep the ink multiple of the channel with an id.
+    virtual std::uint8_t GetColorIndex(std::uint16_t channelId) = 0; // 6
+
+    virtual void Reserved7() {} // 7
+
+    /// Appends the channels of a layout, in the order in which they are to be shown; the first twelve are. An unknown
+    /// layout appends nothing. The array is the library's: it is empty and has room reserved for 256 channels. Append
+    /// by push_back and never beyond that room: growing would take memory from one run-time library that another gives
+    /// back. With Microsoft's iterator debugging the vector is larger: set _ITERATOR_DEBUG_LEVEL to 0. The channels
+    /// stay the host's and must live until the editor operation returns.
+    virtual void GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels) = 0; // 8
+
+protected:
+    ~IInkChannelTable() = default;
+};
