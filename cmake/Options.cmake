@@ -1,0 +1,23 @@
+# The interface targets that carry the flags of every target of ours, and of ours only.
+
+add_library(quorvane_options INTERFACE)
+target_compile_features(quorvane_options INTERFACE cxx_std_17)
+target_compile_definitions(quorvane_options INTERFACE UNICODE _UNICODE WIN32_LEAN_AND_MEAN NOMINMAX
+                                                      _WIN32_WINNT=0x0601 WINVER=0x0601)
+target_compile_options(quorvane_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wconversion;-Wshadow;-Werror>)
+target_include_directories(quorvane_options INTERFACE ${PROJECT_SOURCE_DIR})
+
+# Two builds of one commit are identical: no source paths in the objects, no time stamps in the images.
+add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
+add_link_options(-static -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
+if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    add_link_options(-Wl,--high-entropy-va)
+endif()
+# Test programs keep their symbols for back traces.
+add_link_options($<$<AND:$<CONFIG:Release>,$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>>:-s>)
+
+# Header-only Debian packages are reached through links: /usr/include on a cross compiler's path breaks its own headers.
+file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/include)
+file(CREATE_LINK /usr/include/nlohmann ${PROJECT_BINARY_DIR}/include/nlohmann SYMBOLIC)
+add_library(nlohmann_json INTERFACE)
+target_include_directories(nlohmann_json SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/include)

@@ -1,0 +1,35 @@
+# quorvane_library(NAME SOURCES FILE... LINKS TARGET...): a static library of this project.
+function(quorvane_library name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    quorvane_written(ARG_SOURCES)
+    add_library(${name} STATIC ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC quorvane_options ${ARG_LINKS})
+endfunction()
+
+# quorvane_test(NAME SOURCES FILE... LINKS TARGET...): a GoogleTest program that ./test.sh runs. It loads the DLL at
+# run time, so it is never linked against it.
+function(quorvane_test name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    quorvane_written(ARG_SOURCES)
+    add_executable(${name} ${ARG_SOURCES})
+    target_link_libraries(${name} PRIVATE quorvane_options ${ARG_LINKS} gtest)
+    add_dependencies(${name} Quorvane run_time_files)
+    set_property(GLOBAL APPEND PROPERTY QUORVANE_TESTS ${name})
+endfunction()
+
+# Scaffold while the folders fill: sources that are not written yet are left out.
+function(quorvane_written list)
+    set(found)
+    foreach(source IN LISTS ${list})
+        if(EXISTS ${CMAKE_CURRENT_SOURCE_DIR}/${source} OR IS_ABSOLUTE ${source})
+            list(APPEND found ${source})
+        else()
+            message(STATUS "not written yet: ${CMAKE_CURRENT_SOURCE_DIR}/${source}")
+        endif()
+    endforeach()
+    if(NOT found)
+        file(WRITE ${CMAKE_CURRENT_BINARY_DIR}/empty.cpp "")
+        set(found ${CMAKE_CURRENT_BINARY_DIR}/empty.cpp)
+    endif()
+    set(${list} ${found} PARENT_SCOPE)
+endfunction()
