@@ -1,0 +1,29 @@
+// What the framework keeps between calls. One user-interface thread uses it, so it is plain data.
+#pragma once
+
+#include <afxwin.h>
+
+#include <memory>
+#include <unordered_map>
+#include <vector>
+
+struct AfxState
+{
+    std::unordered_map<HWND, CWnd*> permanent;
+    std::unordered_map<HWND, std::unique_ptr<CWnd>> temporary;
+    std::vector<HWND> modalDialogs; // running modal dialogs, innermost last
+    HWND hWndHeld = nullptr;        // window whose control notifications are held back by UpdateData
+    MSG current = {};               // message being handled, for CWnd::Default
+    int nWaitCursors = 0;
+    HCURSOR hcurBeforeWait = nullptr;
+    CWinApp* pApp = nullptr;
+    HINSTANCE hResource = nullptr;
+};
+
+AfxState& AfxGetState();
+
+// The window that a modal window of the framework belongs to: the innermost running modal dialog, else the active
+// window's top-level window with its last pop-up.
+HWND AfxGetModalOwner(CWnd* pParentWnd);
+
+LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);

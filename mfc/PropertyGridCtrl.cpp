@@ -1,0 +1,533 @@
+#include <afxpropertygridctrl.h>
+
+#include <windowsx.h>
+
+#include <algorithm>
+#include <cassert>
+
+const UINT AFX_WM_PROPERTY_CHANGED = ::RegisterWindowMessage(L"AFX_WM_PROPERTY_CHANGED");
+
+namespace
+{
+const wchar_t g_szClassName[] = L"AfxPropertyGrid";
+
+enum ChildId : UINT
+{
+    ID_HEADER = 1,
+    ID_DROP_DOWN
+};
+
+bool IsInput(UINT message)
+{
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+}
+
+HFONT CreateBold(HFONT hFont)
+{
+    LOGFONT font;
+    ::GetObject(hFont, sizeof(font), &font);
+    font.lfWeight = FW_BOLD;
+    return ::CreateFontIndirect(&font);
+}
+
+int TextHeight(HWND hWnd, HFONT hFont)
+{
+    HDC hdc = ::GetDC(hWnd);
+    HGDIOBJ hOldFont = ::SelectObject(hdc, hFont);
+    TEXTMETRIC metric;
+    ::GetTextMetrics(hdc, &metric);
+    ::SelectObject(hdc, hOldFont);
+    ::ReleaseDC(hWnd, hdc);
+    return metric.tmHeight;
+}
+
+int HeaderHeight(const CWnd& header, RECT client)
+{
+    if (!(header.GetStyle() & WS_VISIBLE))
+        return 0;
+    WINDOWPOS pos = {};
+    HDLAYOUT layout = {&client, &pos};
+    header.SendMessage(HDM_LAYOUT, 0, reinterpret_cast<LPARAM>(&layout));
+    return pos.cy;
+}
+
+COLORREF CustomOrSystem(COLORREF clr, int nSystemColor)
+{
+    return clr == static_cast<COLORREF>(-1) ? ::GetSysColor(nSystemColor) : clr;
+}
+
+void InsertColumn(const CWnd& header, WPARAM nColumn)
+{
+    wchar_t szNoText[] = L""; // a column inserted without any text never draws one
+    HDITEM item = {};
+    item.mask = HDI_FORMAT | HDI_WIDTH | HDI_TEXT;
+    item.fmt = HDF_LEFT | HDF_STRING;
+    item.pszText = szNoText;
+    header.SendMessage(HDM_INSERTITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+}
+
+void SetColumnText(const CWnd& header, WPARAM nColumn, LPCTSTR lpszText)
+{
+    HDITEM item = {};
+    item.mask = HDI_TEXT;
+    item.pszText = const_cast<LPTSTR>(lpszText);
+    header.SendMessage(HDM_SETITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+}
+
+void SetColumnWidth(const CWnd& header, WPARAM nColumn, int nWidth)
+{
+    HDITEM item = {};
+    item.mask = HDI_WIDTH;
+    item.cxy = nWidth;
+    header.SendMessage(HDM_SETITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+}
+} // namespace
+
+BEGIN_MESSAGE_MAP(CMFCPropertyGridCtrl, CWnd)
+    ON_WM_PAINT()
+    ON_WM_SIZE()
+    ON_MESSAGE(WM_ERASEBKGND, &CMFCPropertyGridCtrl::OnEraseBkgnd)
+    ON_MESSAGE(WM_SETFONT, &CMFCPropertyGridCtrl::OnSetFont)
+    ON_MESSAGE(WM_GETFONT, &CMFCPropertyGridCtrl::OnGetFont)
+    ON_MESSAGE(WM_ENABLE, &CMFCPropertyGridCtrl::OnEnable)
+    ON_MESSAGE(WM_SETFOCUS, &CMFCPropertyGridCtrl::OnSetFocus)
+    ON_MESSAGE(WM_KILLFOCUS, &CMFCPropertyGridCtrl::OnKillFocus)
+    ON_MESSAGE(WM_GETDLGCODE, &CMFCPropertyGridCtrl::OnGetDlgCode)
+    ON_MESSAGE(WM_KEYDOWN, &CMFCPropertyGridCtrl::OnKeyDown)
+    ON_MESSAGE(WM_SYSKEYDOWN, &CMFCPropertyGridCtrl::OnSysKeyDown)
+    ON_MESSAGE(WM_LBUTTONDOWN, &CMFCPropertyGridCtrl::OnLButtonDown)
+    ON_MESSAGE(WM_LBUTTONDBLCLK, &CMFCPropertyGridCtrl::OnLButtonDblClk)
+    ON_MESSAGE(WM_MOUSEWHEEL, &CMFCPropertyGridCtrl::OnMouseWheel)
+    ON_MESSAGE(WM_VSCROLL, &CMFCPropertyGridCtrl::OnVScroll)
+    ON_MESSAGE(WM_NOTIFY, &CMFCPropertyGridCtrl::OnNotify)
+END_MESSAGE_MAP()
+
+CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()
+{
+    DestroyWindow();
+    ::DeleteObject(m_look.hBoldFont);
+}
+
+BOOL CMFCPropertyGridCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+{
+    WNDCLASS wndClass = {};
+    wndClass.style = CS_DBLCLKS;
+    wndClass.lpfnWndProc = &::DefWindowProc;
+    wndClass.hInstance = AfxGetInstanceHandle();
+    wndClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
+    wndClass.lpszClassName = g_szClassName;
+    if (!AfxRegisterClass(&wndClass))
+        return FALSE;
+    if (!CreateEx(0, g_szClassName, nullptr, dwStyle | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, rect, pParentWnd, nID))
+        return FALSE;
+    m_look.bEnabled = IsWindowEnabled();
+    CreateChildren();
+    HFONT hFont = reinterpret_cast<HFONT>(pParentWnd->SendMessage(WM_GETFONT));
+    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(hFont ? hFont : ::GetStockObject(DEFAULT_GUI_FONT)));
+    return TRUE;
+}
+
+void CMFCPropertyGridCtrl::CreateChildren()
+{
+    const INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_LISTVIEW_CLASSES}; // the header's set
+    ::InitCommonControlsEx(&controls);
+    m_header.CreateEx(0, WC_HEADER, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | HDS_HORZ | HDS_FULLDRAG, RECT{},
+                      this, ID_HEADER);
+    InsertColumn(m_header, 0);
+    InsertColumn(m_header, 1);
+    EnableHeaderCtrl();
+    m_dropDown.Create(this, ID_DROP_DOWN, [this](const CString& strValue) { ChangeValue(strValue); });
+}
+
+void CMFCPropertyGridCtrl::EnableHeaderCtrl(BOOL bEnable, LPCTSTR lpszLeftColumn, LPCTSTR lpszRightColumn)
+{
+    SetColumnText(m_header, 0, lpszLeftColumn);
+    SetColumnText(m_header, 1, lpszRightColumn);
+    m_header.ShowWindow(bEnable ? SW_SHOW : SW_HIDE);
+    UpdateLayout();
+}
+
+void CMFCPropertyGridCtrl::EnableDescriptionArea([[maybe_unused]] BOOL bEnable)
+{
+    assert(!bEnable);
+}
+
+void CMFCPropertyGridCtrl::SetAlphabeticMode([[maybe_unused]] BOOL bSet)
+{
+    assert(!bSet);
+}
+
+void CMFCPropertyGridCtrl::SetVSDotNetLook(BOOL bSet)
+{
+    m_look.bStrip = bSet;
+    Invalidate(FALSE);
+}
+
+void CMFCPropertyGridCtrl::MarkModifiedProperties(BOOL bMark, BOOL bRedraw)
+{
+    m_look.bMarkModified = bMark;
+    if (bRedraw)
+        Invalidate(FALSE);
+}
+
+void CMFCPropertyGridCtrl::SetCustomColors(COLORREF clrBackground, COLORREF clrText, COLORREF clrGroupBackground,
+                                           COLORREF, COLORREF, COLORREF, COLORREF clrLine)
+{
+    m_look.clrBackground = CustomOrSystem(clrBackground, COLOR_WINDOW);
+    m_look.clrText = CustomOrSystem(clrText, COLOR_WINDOWTEXT);
+    m_look.clrStrip = CustomOrSystem(clrGroupBackground, COLOR_BTNFACE);
+    m_look.clrLine = CustomOrSystem(clrLine, COLOR_BTNFACE);
+    Invalidate(FALSE);
+}
+
+int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRedraw, BOOL bAdjustLayout)
+{
+    pProp->m_pGrid = this;
+    pProp->SetOriginalValue(pProp->GetValue());
+    m_properties.emplace_back(pProp);
+    m_layout.SetRowCount(GetPropertyCount());
+    if (m_hWnd && bAdjustLayout)
+        UpdateScrollBar(FALSE);
+    if (m_hWnd && bRedraw)
+        RedrawWindow(nullptr, RDW_INVALIDATE | RDW_FRAME); // the scroll bar once, however many rows are added
+    return GetPropertyCount() - 1;
+}
+
+void CMFCPropertyGridCtrl::RemoveAll()
+{
+    m_dropDown.Close();
+    m_nSelected = -1;
+    m_properties.clear();
+    UpdateLayout();
+}
+
+void CMFCPropertyGridCtrl::UpdateLayout()
+{
+    if (!m_hWnd)
+        return;
+    m_dropDown.Close();
+    RECT client;
+    GetClientRect(&client);
+    m_layout.SetHeaderHeight(HeaderHeight(m_header, client));
+    m_layout.SetClient(client.right, client.bottom);
+    m_layout.SetRowCount(GetPropertyCount());
+    UpdateScrollBar(); // may change the width, and then comes back here through WM_SIZE
+    UpdateColumns();
+    Invalidate(FALSE);
+}
+
+void CMFCPropertyGridCtrl::UpdateScrollBar(BOOL bRedraw)
+{
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_RANGE | SIF_PAGE | SIF_POS;
+    info.nMax = std::max(0, m_layout.RowCount() - 1);
+    info.nPage = static_cast<UINT>(m_layout.RowsPerPage());
+    info.nPos = m_layout.TopRow();
+    ::SetScrollInfo(m_hWnd, SB_VERT, &info, bRedraw);
+}
+
+void CMFCPropertyGridCtrl::UpdateColumns()
+{
+    m_header.MoveWindow({0, 0, m_layout.Width(), m_layout.HeaderHeight()});
+    SetColumnWidth(m_header, 0, m_layout.SplitX());
+    SetColumnWidth(m_header, 1, m_layout.Width() - m_layout.SplitX());
+}
+
+void CMFCPropertyGridCtrl::ScrollTo(int nTopRow)
+{
+    const int nOldTop = m_layout.TopRow();
+    m_layout.ScrollTo(nTopRow);
+    if (m_layout.TopRow() == nOldTop)
+        return;
+    m_dropDown.Close();
+    UpdateScrollBar();
+    Invalidate(FALSE);
+}
+
+void CMFCPropertyGridCtrl::SelectRow(int nRow)
+{
+    m_nSelected = nRow;
+    m_layout.ScrollIntoView(nRow);
+    UpdateScrollBar();
+    Invalidate(FALSE);
+}
+
+void CMFCPropertyGridCtrl::OpenDropDown()
+{
+    if (m_nSelected < 0 || GetCurSel()->GetOptions().empty())
+        return;
+    SelectRow(m_nSelected); // it may have been scrolled away
+    m_dropDown.Open(m_layout.ValueRect(m_nSelected), m_layout.RowsRect(), GetCurSel()->GetOptions(),
+                    GetCurSel()->GetValue());
+}
+
+void CMFCPropertyGridCtrl::StepOption()
+{
+    const std::vector<CString>& options = GetCurSel()->GetOptions();
+    if (options.empty())
+        return;
+    auto it = std::find(options.begin(), options.end(), GetCurSel()->GetValue());
+    if (it == options.end() || ++it == options.end())
+        it = options.begin();
+    ChangeValue(CString(*it));
+}
+
+void CMFCPropertyGridCtrl::ChangeValue(const CString& strValue)
+{
+    CMFCPropertyGridProperty* pProp = GetCurSel();
+    if (!pProp || pProp->GetValue() == strValue)
+        return;
+    pProp->SetValue(strValue);
+    OnPropertyChanged(pProp); // last: the parent may remove the rows
+}
+
+void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* pProp) const
+{
+    GetParent()->SendMessage(AFX_WM_PROPERTY_CHANGED, static_cast<WPARAM>(GetDlgCtrlID()),
+                             reinterpret_cast<LPARAM>(pProp));
+}
+
+BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+{
+    if (IsInput(message) && !IsWindowEnabled())
+        return TRUE; // the system keeps input from a disabled window, other programs need not
+    return CWnd::OnWndMsg(message, wParam, lParam, pResult);
+}
+
+void CMFCPropertyGridCtrl::OnPaint()
+{
+    PAINTSTRUCT ps;
+    HDC hdc = ::BeginPaint(m_hWnd, &ps);
+    const RECT rows = m_layout.RowsRect();
+    HDC hdcBuffer = ::CreateCompatibleDC(hdc);
+    HBITMAP hBitmap = ::CreateCompatibleBitmap(hdc, std::max(1L, rows.right), std::max(1L, rows.bottom));
+    HGDIOBJ hOldBitmap = ::SelectObject(hdcBuffer, hBitmap);
+
+    m_look.bFocused = HasFocus();
+    const CPropertyGridPainter painter(hdcBuffer, m_layout, m_look);
+    painter.DrawBackground();
+    const int nEnd = std::min(m_layout.RowCount(), m_layout.TopRow() + m_layout.RowsPerPage() + 1);
+    for (int nRow = m_layout.TopRow(); nRow < nEnd; ++nRow)
+        painter.DrawRow(nRow, *GetProperty(nRow), nRow == m_nSelected);
+    ::BitBlt(hdc, 0, rows.top, rows.right, rows.bottom - rows.top, hdcBuffer, 0, rows.top, SRCCOPY);
+
+    ::SelectObject(hdcBuffer, hOldBitmap);
+    ::DeleteObject(hBitmap);
+    ::DeleteDC(hdcBuffer);
+    ::EndPaint(m_hWnd, &ps);
+}
+
+void CMFCPropertyGridCtrl::OnSize(UINT, int, int)
+{
+    UpdateLayout();
+}
+
+LRESULT CMFCPropertyGridCtrl::OnEraseBkgnd(WPARAM, LPARAM)
+{
+    return TRUE; // OnPaint covers everything
+}
+
+LRESULT CMFCPropertyGridCtrl::OnSetFont(WPARAM wParam, LPARAM)
+{
+    m_look.hFont = reinterpret_cast<HFONT>(wParam);
+    ::DeleteObject(m_look.hBoldFont);
+    m_look.hBoldFont = CreateBold(m_look.hFont);
+    m_header.SendMessage(WM_SETFONT, wParam);
+    m_dropDown.SendMessage(WM_SETFONT, wParam);
+    const int nText = TextHeight(m_hWnd, m_look.hFont);
+    m_dropDown.SendMessage(LB_SETITEMHEIGHT, 0, nText + ::GetSystemMetrics(SM_CYEDGE));
+    m_layout.SetRowHeight(nText + 3 * ::GetSystemMetrics(SM_CYEDGE));
+    UpdateLayout();
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnGetFont(WPARAM, LPARAM)
+{
+    return reinterpret_cast<LRESULT>(m_look.hFont);
+}
+
+LRESULT CMFCPropertyGridCtrl::OnEnable(WPARAM wParam, LPARAM)
+{
+    m_dropDown.Close();
+    m_look.bEnabled = wParam != FALSE;
+    m_header.EnableWindow(wParam != FALSE);
+    Invalidate(FALSE);
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnSetFocus(WPARAM, LPARAM)
+{
+    if (m_nSelected < 0 && GetPropertyCount() > 0)
+        SelectRow(0);
+    Invalidate(FALSE);
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnKillFocus(WPARAM, LPARAM)
+{
+    Invalidate(FALSE);
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnGetDlgCode(WPARAM, LPARAM)
+{
+    return m_dropDown.IsOpen() ? DLGC_WANTALLKEYS : DLGC_WANTARROWS | DLGC_WANTCHARS;
+}
+
+int CMFCPropertyGridCtrl::RowAfterKey(WPARAM nKey) const
+{
+    const int nPage = m_layout.RowsPerPage();
+    const int nLast = GetPropertyCount() - 1;
+    const auto limited = [nLast](int nRow) { return std::max(0, std::min(nRow, nLast)); };
+    switch (nKey)
+    {
+    case VK_UP:
+    case VK_LEFT:
+        return limited(m_nSelected - 1);
+    case VK_DOWN:
+    case VK_RIGHT:
+        return limited(m_nSelected + 1);
+    case VK_PRIOR:
+        return limited(m_nSelected - nPage);
+    case VK_NEXT:
+        return limited(m_nSelected + nPage);
+    case VK_HOME:
+        return 0;
+    case VK_END:
+        return nLast;
+    default:
+        return m_nSelected;
+    }
+}
+
+LRESULT CMFCPropertyGridCtrl::OnKeyDown(WPARAM wParam, LPARAM lParam)
+{
+    if (m_dropDown.IsOpen())
+        return m_dropDown.SendMessage(WM_KEYDOWN, wParam, lParam);
+    if (m_properties.empty())
+        return 0;
+    const int nRow = RowAfterKey(wParam);
+    if (nRow != m_nSelected)
+        SelectRow(nRow);
+    if (wParam == VK_F4 || wParam == VK_F2 || wParam == VK_SPACE)
+        OpenDropDown();
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnSysKeyDown(WPARAM wParam, LPARAM lParam)
+{
+    if (wParam != VK_DOWN && wParam != VK_UP)
+        return Default();
+    if (m_dropDown.IsOpen())
+        return m_dropDown.SendMessage(WM_SYSKEYDOWN, wParam, lParam);
+    if (wParam == VK_DOWN)
+        OpenDropDown();
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnLButtonDown(WPARAM, LPARAM lParam)
+{
+    const bool bWasOpen = m_dropDown.IsOpen();
+    const int nOldRow = m_nSelected;
+    SetFocus(); // closes the list
+    const int nRow = m_layout.RowAt(GET_Y_LPARAM(lParam));
+    if (nRow < 0)
+        return 0;
+    SelectRow(nRow);
+    const bool bInValue = GET_X_LPARAM(lParam) >= m_layout.SplitX();
+    if (bInValue && !(bWasOpen && nRow == nOldRow))
+        OpenDropDown();
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnLButtonDblClk(WPARAM, LPARAM lParam)
+{
+    SetFocus(); // the first click may have opened the list
+    const int nRow = m_layout.RowAt(GET_Y_LPARAM(lParam));
+    if (nRow < 0)
+        return 0;
+    SelectRow(nRow);
+    StepOption();
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnMouseWheel(WPARAM wParam, LPARAM)
+{
+    if (m_dropDown.IsOpen())
+        return 0; // the list would hang beside its row
+    UINT nLines = 3;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &nLines, 0);
+    const int nStep = std::min(static_cast<int>(std::min(nLines, 1000u)), m_layout.RowsPerPage());
+    m_nWheelRest += GET_WHEEL_DELTA_WPARAM(wParam) * nStep;
+    const int nRows = m_nWheelRest / WHEEL_DELTA;
+    m_nWheelRest -= nRows * WHEEL_DELTA;
+    ScrollTo(m_layout.TopRow() - nRows);
+    return 0;
+}
+
+int CMFCPropertyGridCtrl::TopRowAfterScroll(WPARAM wParam) const
+{
+    const int nTop = m_layout.TopRow();
+    switch (LOWORD(wParam))
+    {
+    case SB_LINEUP:
+        return nTop - 1;
+    case SB_LINEDOWN:
+        return nTop + 1;
+    case SB_PAGEUP:
+        return nTop - m_layout.RowsPerPage();
+    case SB_PAGEDOWN:
+        return nTop + m_layout.RowsPerPage();
+    case SB_TOP:
+        return 0;
+    case SB_BOTTOM:
+        return m_layout.RowCount();
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+        return ThumbRow(HIWORD(wParam));
+    default:
+        return nTop;
+    }
+}
+
+// The message has room for 16 bits only.
+int CMFCPropertyGridCtrl::ThumbRow(int nRowInMessage) const
+{
+    if (m_layout.RowCount() <= 0xFFFF)
+        return nRowInMessage;
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    info.fMask = SIF_TRACKPOS;
+    ::GetScrollInfo(m_hWnd, SB_VERT, &info);
+    return info.nTrackPos;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnVScroll(WPARAM wParam, LPARAM)
+{
+    ScrollTo(TopRowAfterScroll(wParam));
+    return 0;
+}
+
+LRESULT CMFCPropertyGridCtrl::OnNotify(WPARAM, LPARAM lParam)
+{
+    const NMHEADER& header = *reinterpret_cast<const NMHEADER*>(lParam);
+    if (header.hdr.hwndFrom != m_header.m_hWnd)
+        return 0;
+    const bool bWidth =
+        (header.hdr.code == HDN_ITEMCHANGING || header.hdr.code == HDN_ITEMCHANGED) && (header.pitem->mask & HDI_WIDTH);
+    if (!bWidth)
+        return 0;
+    // The first column's divider moves within limits; the second column is what the first one leaves.
+    const int nWidth = header.pitem->cxy;
+    if (header.hdr.code == HDN_ITEMCHANGING)
+        return header.iItem == 0 ? !m_layout.IsSplitAllowed(nWidth) : nWidth != m_layout.Width() - m_layout.SplitX();
+    if (header.iItem == 0)
+    {
+        m_layout.SetSplitX(nWidth);
+        SetColumnWidth(m_header, 1, m_layout.Width() - nWidth);
+        m_dropDown.Close();
+        Invalidate(FALSE);
+    }
+    return 0;
+}

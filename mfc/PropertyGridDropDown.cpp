@@ -1,0 +1,153 @@
+#include "PropertyGridDropDown.h"
+
+#include <algorithm>
+
+BEGIN_MESSAGE_MAP(CPropertyGridDropDown, CListBox)
+    ON_MESSAGE(WM_GETDLGCODE, &CPropertyGridDropDown::OnGetDlgCode)
+    ON_MESSAGE(WM_KEYDOWN, &CPropertyGridDropDown::OnKeyDown)
+    ON_MESSAGE(WM_SYSKEYDOWN, &CPropertyGridDropDown::OnSysKeyDown)
+    ON_MESSAGE(WM_CHAR, &CPropertyGridDropDown::OnTyped)
+    ON_MESSAGE(WM_KILLFOCUS, &CPropertyGridDropDown::OnKillFocus)
+END_MESSAGE_MAP()
+
+BOOL CPropertyGridDropDown::Create(CWnd* pGrid, UINT nID, std::function<void(const CString&)> accepted)
+{
+    m_accepted = std::move(accepted);
+    const DWORD dwStyle =
+        WS_CHILD | WS_BORDER | WS_VSCROLL | WS_CLIPSIBLINGS | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT;
+    return CreateEx(0, WC_LISTBOX, nullptr, dwStyle, RECT{}, pGrid, nID);
+}
+
+void CPropertyGridDropDown::Open(const RECT& cell, const RECT& bounds, const std::vector<CString>& options,
+                                 const CString& strCurrent)
+{
+    Fill(options, strCurrent);
+    const RECT rect = Place(cell, bounds);
+    ::SetWindowPos(m_hWnd, HWND_TOP, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                   SWP_SHOWWINDOW);
+    SetCurSel(GetCurSel()); // now that the height is known, scrolls the current line into view
+    SetFocus();
+}
+
+void CPropertyGridDropDown::Fill(const std::vector<CString>& options, const CString& strCurrent)
+{
+    ResetContent();
+    for (const CString& strOption : options)
+        AddString(strOption);
+    const auto it = std::find(options.begin(), options.end(), strCurrent);
+    SetCurSel(it == options.end() ? -1 : static_cast<int>(it - options.begin()));
+}
+
+int CPropertyGridDropDown::WidestLine() const
+{
+    HDC hdc = ::GetDC(m_hWnd);
+    HGDIOBJ hOldFont = ::SelectObject(hdc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    LONG nWidest = 0;
+    for (int i = 0; i < GetCount(); ++i)
+    {
+        CString strLine;
+        GetText(i, strLine);
+        SIZE size = {};
+        ::GetTextExtentPoint32(hdc, strLine, strLine.GetLength(), &size);
+        nWidest = std::max(nWidest, size.cx);
+    }
+    ::SelectObject(hdc, hOldFont);
+    ::ReleaseDC(m_hWnd, hdc);
+    return nWidest;
+}
+
+RECT CPropertyGridDropDown::Place(const RECT& cell, const RECT& bounds) const
+{
+    const int nLine = static_cast<int>(SendMessage(LB_GETITEMHEIGHT));
+    const int nBorders = 2 * ::GetSystemMetrics(SM_CYBORDER);
+    const int nWanted = GetCount() * nLine + nBorders;
+    const int nBelow = bounds.bottom - cell.bottom;
+    const int nAbove = cell.top - bounds.top;
+    const bool bBelow = nWanted <= nBelow || nBelow >= nAbove;
+    const int nRoom = std::max(bBelow ? nBelow : nAbove, nLine + nBorders);
+    // Whole lines only: a cut line looks like a fault.
+    const int nHeight = nWanted <= nRoom ? nWanted : (nRoom - nBorders) / nLine * nLine + nBorders;
+    const int nMargins = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
+    const LONG nLeft = std::max(bounds.left, std::min(cell.left, cell.right - WidestLine() - nMargins));
+    const LONG nTop = bBelow ? cell.bottom : cell.top - nHeight;
+    return {nLeft, nTop, cell.right, nTop + nHeight};
+}
+
+void CPropertyGridDropDown::Close()
+{
+    if (!IsOpen())
+        return;
+    if (::GetCapture() == m_hWnd)
+        ::ReleaseCapture();
+    if (::GetFocus() == m_hWnd)
+        GetParent()->SetFocus();
+    ShowWindow(SW_HIDE);
+}
+
+void CPropertyGridDropDown::Accept()
+{
+    if (!IsOpen())
+        return;
+    const int nLine = GetCurSel();
+    CString strLine;
+    GetText(nLine, strLine);
+    Close();
+    if (nLine >= 0)
+        m_accepted(strLine);
+}
+
+BOOL CPropertyGridDropDown::OnChildNotify(UINT message, WPARAM wParam, LPARAM, LRESULT*)
+{
+    if (message == WM_COMMAND && HIWORD(wParam) == LBN_SELCHANGE && !m_bByKey)
+        Accept();
+    return TRUE;
+}
+
+LRESULT CPropertyGridDropDown::OnGetDlgCode(WPARAM, LPARAM)
+{
+    return DLGC_WANTALLKEYS;
+}
+
+LRESULT CPropertyGridDropDown::OnKeyDown(WPARAM wParam, LPARAM lParam)
+{
+    switch (wParam)
+    {
+    case VK_RETURN:
+    case VK_F4:
+        Accept();
+        return 0;
+    case VK_ESCAPE:
+        Close();
+        return 0;
+    case VK_TAB:
+        Close();
+        GetParent()->PostMessage(WM_KEYDOWN, VK_TAB); // the grid is the tab stop, the way on begins there
+        return 0;
+    default:
+        return OnTyped(wParam, lParam);
+    }
+}
+
+LRESULT CPropertyGridDropDown::OnSysKeyDown(WPARAM wParam, LPARAM)
+{
+    if (wParam != VK_UP && wParam != VK_DOWN)
+        return Default();
+    Accept();
+    return 0;
+}
+
+LRESULT CPropertyGridDropDown::OnTyped(WPARAM, LPARAM)
+{
+    m_bByKey = true;
+    const LRESULT result = Default();
+    m_bByKey = false;
+    return result;
+}
+
+LRESULT CPropertyGridDropDown::OnKillFocus(WPARAM, LPARAM)
+{
+    const LRESULT result = Default();
+    Close();
+    GetParent()->Invalidate(FALSE); // the grid's selected row shows whether the focus is in the grid
+    return result;
+}

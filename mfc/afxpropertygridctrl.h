@@ -1,0 +1,126 @@
+// CMFCPropertyGridCtrl: a grid of names and values, each value picked from a list of texts.
+// Supported: one level of rows, two columns with a header whose divider can be dragged, option lists opened in place
+// by mouse or keyboard, bold values for what the operator changed, custom colours, AFX_WM_PROPERTY_CHANGED.
+// Not supported: groups, the description area, typing into a value, sorting. EnableDescriptionArea, SetAlphabeticMode
+// and AllowEdit therefore take only FALSE; SetCustomColors uses the background, text, group background and line
+// colours. Differs: a value is a text (CString) instead of a variant, and the value that counts as not modified is the
+// one that the row has when it is added to the grid. Keys: the arrows, Page Up, Page Down, Home and End move between
+// the rows; F4, Alt+Down, F2 and Space open the list. A double click takes the next option.
+#pragma once
+
+#include <afxwin.h>
+
+#include "PropertyGridDropDown.h"
+#include "PropertyGridLayout.h"
+#include "PropertyGridPainter.h"
+
+#include <memory>
+#include <vector>
+
+// Sent to the grid's parent after the operator changed a value: wParam is the grid's id, lParam the property.
+extern const UINT AFX_WM_PROPERTY_CHANGED;
+
+class CMFCPropertyGridCtrl;
+
+class CMFCPropertyGridProperty
+{
+public:
+    CMFCPropertyGridProperty(const CString& strName, const CString& strValue, LPCTSTR lpszDescr = nullptr,
+                             DWORD_PTR dwData = 0);
+    CMFCPropertyGridProperty(const CMFCPropertyGridProperty&) = delete;
+    CMFCPropertyGridProperty& operator=(const CMFCPropertyGridProperty&) = delete;
+
+    const CString& GetName() const { return m_strName; }
+    DWORD_PTR GetData() const { return m_dwData; }
+
+    const CString& GetValue() const { return m_strValue; }
+    void SetValue(const CString& strValue); // sends nothing
+    void SetOriginalValue(const CString& strValue) { m_strOriginal = strValue; }
+    BOOL IsModified() const { return m_strValue != m_strOriginal; }
+
+    // FALSE when the text is there already and only new ones are wanted.
+    BOOL AddOption(LPCTSTR lpszOption, BOOL bInsertUnique = TRUE);
+    const std::vector<CString>& GetOptions() const { return m_options; }
+    void AllowEdit(BOOL bAllow = TRUE);
+
+private:
+    friend class CMFCPropertyGridCtrl;
+
+    CString m_strName;
+    CString m_strValue;
+    CString m_strOriginal;
+    DWORD_PTR m_dwData;
+    std::vector<CString> m_options;
+    CMFCPropertyGridCtrl* m_pGrid = nullptr;
+};
+
+class CMFCPropertyGridCtrl : public CWnd
+{
+public:
+    ~CMFCPropertyGridCtrl() override;
+
+    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    void EnableHeaderCtrl(BOOL bEnable = TRUE, LPCTSTR lpszLeftColumn = L"Property",
+                          LPCTSTR lpszRightColumn = L"Value");
+    void EnableDescriptionArea(BOOL bEnable = TRUE);
+    void SetAlphabeticMode(BOOL bSet = TRUE);
+    void SetVSDotNetLook(BOOL bSet = TRUE); // flat, with a strip beside the names
+    void MarkModifiedProperties(BOOL bMark = TRUE, BOOL bRedraw = TRUE);
+    // (COLORREF)-1 leaves a colour to the system.
+    void SetCustomColors(COLORREF clrBackground, COLORREF clrText, COLORREF clrGroupBackground, COLORREF clrGroupText,
+                         COLORREF clrDescriptionBackground, COLORREF clrDescriptionText, COLORREF clrLine);
+
+    // The grid owns the property from now on and deletes it in RemoveAll or with itself.
+    int AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRedraw = TRUE, BOOL bAdjustLayout = TRUE);
+    void RemoveAll();
+    int GetPropertyCount() const { return static_cast<int>(m_properties.size()); }
+    CMFCPropertyGridProperty* GetProperty(int nIndex) const { return m_properties[static_cast<size_t>(nIndex)].get(); }
+    CMFCPropertyGridProperty* GetCurSel() const { return m_nSelected < 0 ? nullptr : GetProperty(m_nSelected); }
+
+protected:
+    virtual void OnPropertyChanged(CMFCPropertyGridProperty* pProp) const;
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+
+    void OnPaint();
+    void OnSize(UINT nType, int cx, int cy);
+    LRESULT OnEraseBkgnd(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    LRESULT OnEnable(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSetFocus(WPARAM wParam, LPARAM lParam);
+    LRESULT OnKillFocus(WPARAM wParam, LPARAM lParam);
+    LRESULT OnGetDlgCode(WPARAM wParam, LPARAM lParam);
+    LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
+    LRESULT OnSysKeyDown(WPARAM wParam, LPARAM lParam);
+    LRESULT OnLButtonDown(WPARAM wParam, LPARAM lParam);
+    LRESULT OnLButtonDblClk(WPARAM wParam, LPARAM lParam);
+    LRESULT OnMouseWheel(WPARAM wParam, LPARAM lParam);
+    LRESULT OnVScroll(WPARAM wParam, LPARAM lParam);
+    LRESULT OnNotify(WPARAM wParam, LPARAM lParam);
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void CreateChildren();
+    void UpdateLayout();
+    void UpdateScrollBar(BOOL bRedraw = TRUE);
+    void UpdateColumns();
+    void ScrollTo(int nTopRow);
+    int TopRowAfterScroll(WPARAM wParam) const;
+    int ThumbRow(int nRowInMessage) const;
+    int RowAfterKey(WPARAM nKey) const;
+    void SelectRow(int nRow);
+    void OpenDropDown();
+    void StepOption();
+    void ChangeValue(const CString& strValue);
+    bool HasFocus() const { return ::GetFocus() == m_hWnd || m_dropDown.IsOpen(); }
+
+    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> m_properties;
+    int m_nSelected = -1;
+    CPropertyGridLayout m_layout;
+    PropertyGridLook m_look;
+    CWnd m_header;
+    CPropertyGridDropDown m_dropDown;
+    int m_nWheelRest = 0; // turns of the wheel that did not make up a whole line yet
+};
