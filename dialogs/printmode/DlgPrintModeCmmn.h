@@ -1,0 +1,94 @@
+#pragma once
+
+#include "dialogs/base/DlgBase.h"
+
+#include <afxdialogex.h>
+
+#include <array>
+#include <cstdint>
+
+class IPrintMode;
+
+// First page of the print-mode editor: the general settings of the attached mode and its feathering compensation.
+// General settings reach the host when the editor has the page store them; a compensation value when its field loses
+// the focus, a compensation switch when it changes.
+class CDlgPrintModeCmmn : public CDialogEx, public CDlgBase
+{
+public:
+    CDlgPrintModeCmmn();
+
+    // The mode stays the host's; null leaves the controls as they are.
+    void AttachMode(IPrintMode* pMode);
+    IPrintMode* GetAttachedMode() const { return m_pMode; }
+    void LoadFromMode();
+    void StoreToMode();
+
+    int ApplyLanguage() override;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+
+    void OnSmallGroupChange() { ShowDot(m_small); }
+    void OnMediumGroupChange() { ShowDot(m_medium); }
+    void OnLargeGroupChange() { ShowDot(m_large); }
+    void OnSmallKillFocus() { WriteDot(m_small); }
+    void OnMediumKillFocus() { WriteDot(m_medium); }
+    void OnLargeKillFocus() { WriteDot(m_large); }
+    void OnFrontGroupChange() { ShowEdge(m_front); }
+    void OnBackGroupChange() { ShowEdge(m_back); }
+    void OnFrontChange() { WriteEdge(m_front); }
+    void OnBackChange() { WriteEdge(m_back); }
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // The compensation of one dot size: an ink group and the value of that group.
+    struct DotRow
+    {
+        int nGroupId;
+        int nValueId;
+        float (IPrintMode::*pfnGet)(std::uint32_t group);
+        void (IPrintMode::*pfnSet)(float value, std::uint32_t group);
+        CComboBox cmbGroup{};
+        float fValue = 0;
+    };
+
+    // The compensation of one edge: an ink group and the switch of that group.
+    struct EdgeRow
+    {
+        int nGroupId;
+        int nSwitchId;
+        std::uint8_t (IPrintMode::*pfnGet)(std::uint32_t group);
+        void (IPrintMode::*pfnSet)(std::int32_t on, std::uint32_t group);
+        CComboBox cmbGroup{};
+        CComboBox cmbSwitch{};
+    };
+
+    void FillSwitch(CComboBox& combo, int nSelect);
+    void FillFixedLists();
+    void FillXResolutions();
+    void FillGroups();
+    void SelectPassCount(int nPassCount);
+    void ReadDot(DotRow& row);
+    void ShowDot(DotRow& row);
+    void WriteDot(DotRow& row);
+    void ShowEdge(EdgeRow& row);
+    void WriteEdge(EdgeRow& row);
+
+    void ReadValues();
+    CString EditTexts() const;
+
+    IPrintMode* m_pMode = nullptr;
+    CComboBox m_cmbEnable;
+    CComboBox m_cmbPass;
+    CComboBox m_cmbXDpi;
+    CComboBox m_cmbResident;
+    DotRow m_small;
+    DotRow m_medium;
+    DotRow m_large;
+    EdgeRow m_front;
+    EdgeRow m_back;
+    CString m_strName;
+    CString m_strRefused; // the edits' texts that the operator was already told of
+};

@@ -1,0 +1,11 @@
+#pragma once
+
+#include <afxwin.h>
+
+// The library's application object: gives the message boxes their caption.
+class CQuorvaneApp : public CWinApp
+{
+public:
+    CQuorvaneApp() : CWinApp(L"Quorvane") {}
+    BOOL InitInstance() override;
+};

@@ -1,0 +1,58 @@
+#include "frame/QuorvaneIns.h"
+
+#include "dialogs/base/HostContext.h"
+#include "dialogs/printmode/DlgPrintMode.h"
+#include "dialogs/scheme/DlgPrintSchemeFcty.h"
+#include "dialogs/user/DlgPrintSchemeUser.h"
+#include "frame/ModalRunner.h"
+
+namespace
+{
+template <class Dialog>
+void RunEditor(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    Dialog dialog;
+    GetHostContext().pData = data;
+    GetHostContext().pControl = control;
+    SetLanguageFile(languageDir, L"Quorvane.ini");
+    RunModal(&dialog, L"Quorvane.dll");
+}
+
+// The host cannot catch this library's exceptions, so none may leave; the run then counts as one that was closed.
+template <class Dialog>
+std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    if (!data || !control)
+        return 0;
+    try
+    {
+        RunEditor<Dialog>(data, control, languageDir);
+    }
+    catch (...)
+    {
+    }
+    return 1;
+}
+} // namespace
+
+void* CQuorvaneIns::Destroy(std::uint32_t flags)
+{
+    if (flags & 1)
+        delete this;
+    return this;
+}
+
+std::int32_t CQuorvaneIns::EditPrintModes(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    return Edit<CDlgPrintMode>(data, control, languageDir);
+}
+
+std::int32_t CQuorvaneIns::EditFactorySchemes(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    return Edit<CDlgPrintSchemeFcty>(data, control, languageDir);
+}
+
+std::int32_t CQuorvaneIns::EditUserSchemes(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    return Edit<CDlgPrintSchemeUser>(data, control, languageDir);
+}
