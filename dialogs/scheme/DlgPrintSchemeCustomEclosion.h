@@ -1,0 +1,90 @@
+#pragma once
+
+#include "dialogs/base/DlgBase.h"
+
+#include <afxbutton.h>
+#include <afxcmn.h>
+#include <afxdialogex.h>
+
+#include <array>
+#include <cstdint>
+
+class ICustomEclosion;
+class ICustomEclosionSet;
+class IEclosionElement;
+class IEclosionMode;
+
+// Designs a custom eclosion: a range and up to three modes of up to two elements each. It edits the host's definition
+// in place while the operator works; Save asks the host to keep the set.
+class CDlgPrintSchemeCustomEclosion : public CDialogEx, public CDlgBase
+{
+public:
+    CDlgPrintSchemeCustomEclosion();
+
+    int ApplyLanguage() override;
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+    void OnPaint();
+    void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
+    void OnAddMode();
+    void OnDeleteMode();
+    void OnAddElement();
+    void OnDeleteElement();
+    void OnModeChosen();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // One element: its controls, and what its preview shows.
+    struct ElementView
+    {
+        int nGroupId;
+        int nWidthLabelId;
+        int nWidthId;
+        int nHeightLabelId;
+        int nHeightId;
+        int nFrameId;
+        CSliderCtrl sliderWidth{};
+        CSliderCtrl sliderHeight{};
+        bool bShow = false;
+        int nWidth = 0;
+        int nHeight = 0;
+        RECT rcPreview{};
+    };
+
+    void InitTrackbars();
+    void Load();
+    void NormaliseSet();
+    void AddDefaultEclosion();
+    void ShowCurrentMode();
+    void ShowElements(IEclosionMode* pMode);
+    void ShowElement(ElementView& view, IEclosionElement* pElement, bool bShow);
+    void ShowRadios(ICustomEclosion* pEclosion);
+    void EnableEditing();
+    void EnableWithoutSet();
+    void MoveRange();
+    void MoveElement(ElementView& view, CSliderCtrl& slider);
+    void PaintPreview(CDC& dc, const ElementView& view) const;
+
+    // The definition that the dialog edits, and the one that the set names as its current one: the same, once loaded.
+    ICustomEclosion* Eclosion() const;
+    ICustomEclosion* CurrentEclosion() const;
+    IEclosionMode* CurrentMode(ICustomEclosion* pEclosion) const;
+
+    CMFCButton m_btnAddMode;
+    CMFCButton m_btnDelMode;
+    CMFCButton m_btnDelElement;
+    CMFCButton m_btnAddElement;
+    CMFCButton m_btnSave;
+    CMFCButton m_btnCancel;
+    CSliderCtrl m_sliderRange;
+    std::array<ElementView, 2> m_elements;
+    int m_nRange = 0;
+    int m_nCurMode = 0;
+    bool m_bAllowLockedEdit = true;
+    ICustomEclosionSet* m_pSet = nullptr; // the host's
+};

@@ -1,0 +1,192 @@
+#include "dialogs/scheme/DlgPrintSchemeFcty.h"
+
+#include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostText.h"
+#include "dialogs/scheme/DlgPrintSchemeCopyToConfig.h"
+#include "dialogs/scheme/SchemeNames.h"
+#include "host/IConfigList.h"
+#include "host/IHostData.h"
+#include "host/IPrintConfig.h"
+#include "host/IPrintScheme.h"
+#include "host/ISchemeParams.h"
+#include "resources/resource.h"
+
+#include <algorithm>
+
+namespace
+{
+constexpr std::int32_t SAVE_FACTORY_DATA = 2;
+
+IFactorySchemeList* FactorySchemes()
+{
+    return GetHostContext().pData->GetFactorySchemeList();
+}
+
+// Null when the host refuses, or when the new scheme would have no id left to be named by.
+IPrintScheme* AddSchemeTo(IFactorySchemeList* pList)
+{
+    return pList && pList->GetCount() < FIRST_USER_SCHEME ? pList->AddScheme() : nullptr;
+}
+
+void CopyParams(IPrintScheme& target, IPrintScheme* pSource)
+{
+    ISchemeParams* pTarget = target.GetParams();
+    ISchemeParams* pParams = pSource ? pSource->GetParams() : nullptr;
+    if (pTarget && pParams)
+        pTarget->CopyFrom(pParams);
+}
+} // namespace
+
+CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, 0, SAVE_FACTORY_DATA) {}
+
+BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
+    ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)
+END_MESSAGE_MAP()
+
+int CDlgPrintSchemeFcty::ApplyLanguage()
+{
+    SetWindowText(GetLanguageText(L"TITLE_FACT", L""));
+    return CDlgSchemeEditor::ApplyLanguage();
+}
+
+std::vector<CDlgSchemeEditor::Page> CDlgPrintSchemeFcty::MakePages()
+{
+    return {
+        {&m_pageCommon, IDD_SCHEME_CMMN, GetLanguageText(L"TAB_COMMON", L"")},
+        {&m_pageMode, IDD_SCHEME_MODE, GetLanguageText(L"TAB_MODE", L"")},
+        {&m_pageEclosion, IDD_SCHEME_ELC, GetLanguageText(L"TAB_ELC", L"")},
+        {&m_pageInkMul, IDD_SCHEME_INK_MUL, GetLanguageText(L"TAB_INK_MUL", L"")},
+        {&m_pageInkCut, IDD_SCHEME_INK_CUT, GetLanguageText(L"TAB_INK_CUT", L"")},
+        {&m_pageUv, IDD_SCHEME_UV, GetLanguageText(L"TAB_UV", L"")},
+        {&m_pageSapp, IDD_SCHEME_SAPP, GetLanguageText(L"TAB_SAPP", L"")},
+    };
+}
+
+BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)
+{
+    if (pMsg->message == WM_RBUTTONUP)
+        OnRightButtonUp();
+    return CDlgSchemeEditor::PreTranslateMessage(pMsg);
+}
+
+void CDlgPrintSchemeFcty::OnAddScheme()
+{
+    IPrintConfig* pConfig = SelectedConfig();
+    IFactorySchemeList* pList = pConfig ? FactorySchemes() : nullptr;
+    IPrintScheme* pScheme = AddSchemeTo(pList);
+    if (!pScheme)
+        return;
+    pScheme->SetName(NewSchemeName(HostText(pConfig->GetName()), pList->GetCount()).c_str());
+    pScheme->SetConfigIndex(static_cast<std::uint8_t>(m_lstConfigs.GetCurSel()));
+    const auto nIndex = static_cast<int>(pList->GetCount() - 1);
+    const int nRow = AddSchemeRow(HostText(pScheme->GetName()), nIndex);
+    if (nRow < 0)
+        pList->RemoveAt(static_cast<std::uint32_t>(nIndex));
+    else
+        SelectAddedRow(nRow);
+}
+
+void CDlgPrintSchemeFcty::OnCopyScheme()
+{
+    CDlgPrintSchemeCopyToConfig dialog;
+    if (dialog.DoModal() != IDOK || dialog.GetChosen().empty())
+        return;
+    const int nSourceId = SelectedSchemeId();
+    IFactorySchemeList* pList = FactorySchemes();
+    if (!pList || nSourceId < 0 || static_cast<std::uint32_t>(nSourceId) >= pList->GetCount())
+        return;
+    for (std::uint32_t nConfig : dialog.GetChosen())
+        CopyTo(nConfig, nSourceId);
+}
+
+void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
+{
+    IFactorySchemeList* pList = FactorySchemes();
+    IPrintScheme* pCopy = AddSchemeTo(pList);
+    if (!pCopy)
+        return;
+    CopyParams(*pCopy, pList->GetAt(static_cast<std::uint32_t>(nSourceId)));
+    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
+    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
+    if (!pConfig)
+        return;
+    pCopy->SetConfigIndex(static_cast<std::uint8_t>(nConfig));
+    pCopy->SetName(CopiedSchemeName(pConfig->GetXResolution(), pConfig->GetYResolution()).c_str());
+    if (static_cast<int>(nConfig) == m_lstConfigs.GetCurSel())
+        FillSchemeList();
+}
+
+// The selection follows the cursor's height wherever in the dialog the button was released; the menu belongs to the
+// list.
+void CDlgPrintSchemeFcty::OnRightButtonUp()
+{
+    RECT rcRow = {};
+    m_lstSchemes.GetItemRect(0, &rcRow);
+    RECT rcList;
+    m_lstSchemes.GetClientRect(&rcList);
+    m_lstSchemes.ClientToScreen(&rcList);
+    POINT ptCursor;
+    ::GetCursorPos(&ptCursor);
+    const int nRowHeight = rcRow.bottom - rcRow.top;
+    if (nRowHeight > 0)
+    {
+        const int nScroll = m_lstSchemes.GetScrollPos(SB_VERT);
+        m_lstSchemes.SetCurSel((nRowHeight * nScroll - rcList.top + ptCursor.y) / nRowHeight);
+        SelectScheme(true);
+        m_lstSchemes.RedrawWindow();
+    }
+    if (::PtInRect(&rcList, ptCursor))
+        TrackCopyMenu(ptCursor);
+}
+
+void CDlgPrintSchemeFcty::TrackCopyMenu(POINT ptScreen)
+{
+    CMenu menu;
+    if (!menu.LoadMenu(IDR_MENU_COPY))
+        return;
+    menu.ModifyMenu(IDM_COPY_SCHEME, MF_BYCOMMAND | MF_STRING, IDM_COPY_SCHEME,
+                    GetLanguageText(L"IDM_COPY_SCHEME", L""));
+    ::TrackPopupMenu(menu.GetSubMenu(0), TPM_LEFTALIGN | TPM_RIGHTBUTTON, ptScreen.x, ptScreen.y, 0, m_hWnd, nullptr);
+}
+
+void CDlgPrintSchemeFcty::FillSchemeList()
+{
+    m_lstSchemes.SetRedraw(FALSE);
+    m_lstSchemes.ResetContent();
+    const int nConfig = m_lstConfigs.GetCurSel();
+    if (m_lstConfigs.GetCount() == 0 || nConfig < 0)
+        return; // redrawing stays off until the next fill
+    if (SelectedConfig())
+        AddSchemesOf(nConfig);
+    m_lstSchemes.SetCurSel(0);
+    m_lstSchemes.SetRedraw(TRUE);
+    if (SelectedConfig())
+        SelectScheme(true);
+}
+
+void CDlgPrintSchemeFcty::AddSchemesOf(int nConfig)
+{
+    IFactorySchemeList* pList = FactorySchemes();
+    const std::uint32_t nCount = pList ? pList->GetCount() : 0;
+    // A scheme beyond has no id; taken for one, it would name a user scheme.
+    const int nListed = static_cast<int>(std::min<std::uint32_t>(nCount, FIRST_USER_SCHEME));
+    for (int i = 0; i < nListed; ++i)
+    {
+        IPrintScheme* pScheme = pList->GetAt(static_cast<std::uint32_t>(i));
+        if (pScheme && pScheme->GetConfigIndex() == nConfig)
+            AddSchemeRow(HostText(pScheme->GetName()), i);
+    }
+}
+
+void CDlgPrintSchemeFcty::RemoveFromHost(int nSchemeId)
+{
+    IFactorySchemeList* pList = FactorySchemes();
+    const auto nIndex = static_cast<std::uint32_t>(nSchemeId);
+    if (pList && pList->GetAt(nIndex))
+        pList->RemoveAt(nIndex);
+}
+
+void CDlgPrintSchemeFcty::OnShowingScheme(int nSchemeId)
+{
+    m_pageMode.m_nConfigIndex = nSchemeId >= 0 ? m_lstConfigs.GetCurSel() : -1;
+}

@@ -1,0 +1,12 @@
+#include "dialogs/scheme/PendingDeletions.h"
+
+#include <algorithm>
+#include <functional>
+
+std::vector<int> CPendingDeletions::InRemovalOrder() const
+{
+    std::vector<int> ids = m_vecIds;
+    std::sort(ids.begin(), ids.end(), std::greater<>());
+    ids.erase(std::unique(ids.begin(), ids.end()), ids.end());
+    return ids;
+}

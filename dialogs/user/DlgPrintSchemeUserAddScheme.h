@@ -1,0 +1,30 @@
+#pragma once
+
+#include "dialogs/base/DlgBase.h"
+
+#include <afxdialogex.h>
+
+// Asks for the name and the source of a new user scheme. The editor makes the scheme.
+class CDlgPrintSchemeUserAddScheme : public CDialogEx, public CDlgBase
+{
+public:
+    // The source is the scheme id to preselect; one that is not offered leaves the first one selected.
+    CDlgPrintSchemeUserAddScheme(int nConfigIndex, int nSource);
+
+    int ApplyLanguage() override;
+
+    CString m_strName;
+    int m_nSource; // after an OK the chosen scheme id, -1 for none
+
+protected:
+    void DoDataExchange(CDataExchange* pDX) override;
+    BOOL OnInitDialog() override;
+    void OnOK() override;
+
+private:
+    void FillSources();
+    void AddSource(LPCTSTR pszText, int nSchemeId, int& nSelect);
+
+    int m_nConfigIndex;
+    CComboBox m_cmbSource;
+};
