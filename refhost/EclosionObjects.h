@@ -1,0 +1,91 @@
+// The custom feathering definitions: a set of definitions, each with modes, each with elements.
+#pragma once
+
+#include "host/ICustomEclosion.h"
+#include "host/ICustomEclosionSet.h"
+#include "host/IEclosionElement.h"
+#include "host/IEclosionMode.h"
+#include "refhost/HostObject.h"
+#include "refhost/Machine.h"
+
+namespace refhost
+{
+
+class EclosionElementObject : public IEclosionElement, public HostObject
+{
+public:
+    EclosionElementObject(HostContext& context, const std::string& place, const EclosionElement& element)
+        : HostObject(context, "IEclosionElement", place), m_element(element)
+    {
+    }
+
+    const EclosionElement& Values() const { return m_element; }
+
+    std::int32_t GetWidth() override { return Get("GetWidth", m_element.width); }
+    void SetWidth(std::int32_t width) override { Set("SetWidth", m_element.width, width); }
+    std::int32_t GetHeight() override { return Get("GetHeight", m_element.height); }
+    void SetHeight(std::int32_t height) override { Set("SetHeight", m_element.height, height); }
+
+private:
+    EclosionElement m_element;
+};
+
+class EclosionModeObject : public IEclosionMode, public HostObject
+{
+public:
+    EclosionModeObject(HostContext& context, const std::string& place, const EclosionMode& mode);
+
+    EclosionMode Values() const;
+    void MarkRemoved() override;
+
+    std::uint32_t GetElementCount() override;
+    IEclosionElement* AddElement() override;
+    IEclosionElement* GetElement(std::uint32_t index) override;
+    void DeleteElement(std::uint32_t index) override;
+
+private:
+    HostItems<EclosionElementObject> m_elements;
+};
+
+class CustomEclosionObject : public ICustomEclosion, public HostObject
+{
+public:
+    CustomEclosionObject(HostContext& context, const std::string& place, const CustomEclosion& eclosion);
+
+    CustomEclosion Values() const;
+
+    std::int32_t GetCurrentMode() override;
+    void SetCurrentMode(std::int32_t index) override;
+    std::uint8_t IsLocked() override;
+    void SetLocked(std::int32_t locked) override;
+    std::int32_t GetRange() override;
+    void SetRange(std::int32_t range) override;
+    std::uint32_t GetModeCount() override;
+    IEclosionMode* AddMode() override;
+    IEclosionMode* GetMode(std::uint32_t index) override;
+    void DeleteMode(std::uint32_t index) override;
+
+private:
+    CustomEclosion m_eclosion; // its modes lie in m_modes
+    HostItems<EclosionModeObject> m_modes;
+};
+
+class CustomEclosionSetObject : public ICustomEclosionSet, public HostObject
+{
+public:
+    CustomEclosionSetObject(HostContext& context, const CustomEclosionSet& set);
+
+    CustomEclosionSet Values() const;
+
+    std::int32_t GetCurrentIndex() override;
+    void SetCurrentIndex(std::int32_t index) override;
+    std::uint32_t GetCount() override;
+    ICustomEclosion* AddEclosion() override;
+    ICustomEclosion* GetEclosion(std::uint32_t index) override;
+
+private:
+    std::int32_t m_currentIndex;
+    HostItems<CustomEclosionObject> m_definitions;
+};
+
+} // namespace refhost

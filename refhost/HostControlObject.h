@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include "host/IHostControl.h"
+#include "refhost/Host.h"
+#include "refhost/HostObject.h"
+
+namespace refhost
+{
+
+class HostControlObject : public IHostControl, public HostObject
+{
+public:
+    explicit HostControlObject(HostContext& context);
+
+    void OnSave(std::function<void(SaveRequest)> handler) { m_handler = std::move(handler); }
+
+    void SaveParameters(std::uint32_t kind) override;
+    void SaveCustomEclosionSet() override;
+
+private:
+    void Ask(SaveRequest request) const;
+
+    std::function<void(SaveRequest)> m_handler;
+};
+
+} // namespace refhost

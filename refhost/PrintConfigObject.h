@@ -1,0 +1,42 @@
+#pragma once
+
+#include "host/IPrintConfig.h"
+#include "refhost/HostObject.h"
+#include "refhost/Machine.h"
+#include "refhost/PrintModeObject.h"
+
+namespace refhost
+{
+
+class PrintConfigObject : public IPrintConfig, public HostObject
+{
+public:
+    PrintConfigObject(HostContext& context, const std::string& place, const PrintConfig& config);
+
+    /// With the modes as they are now.
+    PrintConfig Values() const;
+    void MarkRemoved() override;
+
+    void SetName(const char* name) override;
+    void SetXResolution(std::int32_t dpi) override;
+    void SetYResolution(std::int32_t dpi) override;
+    void SetColorCount(std::int32_t count) override;
+    void SetDotBits(std::int32_t bits) override;
+    void SetEnabled(std::int32_t enabled) override;
+    const char* GetName() override;
+    std::uint16_t GetXResolution() override;
+    std::uint16_t GetYResolution() override;
+    std::uint8_t GetColorCount() override;
+    std::uint8_t GetDotBits() override;
+    std::int32_t GetEnabled() override;
+    std::uint32_t GetModeCount() override;
+    IPrintMode* GetMode(std::uint32_t index) override;
+    IPrintMode* AddMode() override;
+    void RemoveMode(std::uint32_t index) override;
+
+private:
+    PrintConfig m_config; // its modes lie in m_modes
+    HostItems<PrintModeObject> m_modes;
+};
+
+} // namespace refhost

@@ -1,0 +1,16 @@
+#pragma once
+
+#define IDD_MAIN 100
+
+#define IDC_MACHINE_FILE 1001
+#define IDC_OPEN_MACHINE 1002
+#define IDC_MACHINE_NAME 1003
+#define IDC_LANGUAGE 1004
+#define IDC_PRINT_MODES 1005
+#define IDC_FACTORY_SCHEMES 1006
+#define IDC_USER_SCHEMES 1007
+#define IDC_STATUS 1008
+
+#ifndef IDC_STATIC
+#define IDC_STATIC (-1)
+#endif

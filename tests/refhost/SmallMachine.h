@@ -1,0 +1,11 @@
+#pragma once
+
+#include <string>
+
+#include "refhost/Machine.h"
+
+// Two configurations with two modes and one mode, two schemes of each kind, something in every list.
+refhost::Machine SmallMachine();
+
+// Its file, with the text that stands once in it replaced.
+std::string SmallMachineWith(const std::string& text, const std::string& replacement);
