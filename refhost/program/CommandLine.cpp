@@ -43,11 +43,6 @@ std::wstring* OptionValue(CommandLine& line, const std::wstring& option, std::ws
 
 } // namespace
 
-std::wstring ReasonNotToOpen(const Editor& editor)
-{
-    return editor.exists ? L"" : std::wstring(L"The ") + editor.title + L" is not part of this version.";
-}
-
 CommandLine ParseCommandLine(const std::vector<std::wstring>& arguments)
 {
     CommandLine line;

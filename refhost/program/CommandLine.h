@@ -26,9 +26,6 @@ public:
 
 extern const wchar_t* const kUsage;
 
-/// Why an editor cannot be opened; empty for one that this version has.
-std::wstring ReasonNotToOpen(const Editor& editor);
-
 /// `arguments` without the program's name. Throws CommandLineError.
 CommandLine ParseCommandLine(const std::vector<std::wstring>& arguments);
 

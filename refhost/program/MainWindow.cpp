@@ -167,12 +167,12 @@ void MainWindow::ShowStatus()
 void MainWindow::UpdateButtons()
 {
     for (const Editor& editor : kEditors)
-        EnableWindow(GetDlgItem(m_window, editor.button), CanEdit(editor));
+        EnableWindow(GetDlgItem(m_window, editor.button), CanEdit());
 }
 
-bool MainWindow::CanEdit(const Editor& editor) const
+bool MainWindow::CanEdit() const
 {
-    return editor.exists && m_start.editors != nullptr && m_start.document != nullptr && !m_editing;
+    return m_start.editors != nullptr && m_start.document != nullptr && !m_editing;
 }
 
 void MainWindow::Load(const std::wstring& path)
@@ -190,7 +190,7 @@ void MainWindow::Load(const std::wstring& path)
 
 void MainWindow::Edit(const Editor& editor)
 {
-    if (!CanEdit(editor))
+    if (!CanEdit())
         return;
     m_editing = true;
     const std::wstring languageDir = SelectedLanguageDir();

@@ -44,7 +44,7 @@ private:
     void ShowDocument();
     void ShowStatus();
     void UpdateButtons();
-    bool CanEdit(const Editor& editor) const;
+    bool CanEdit() const;
     void Load(const std::wstring& path);
     void Edit(const Editor& editor);
     bool MayDropDocument();

@@ -70,9 +70,6 @@ int Fail(int code, const std::wstring& text)
 int RunProgram()
 {
     const CommandLine line = ParseCommandLine(Arguments());
-    const std::wstring reason = line.open == nullptr ? L"" : ReasonNotToOpen(*line.open);
-    if (!reason.empty())
-        return Fail(kFailed, reason);
     const std::wstring folder = ProgramFolder();
     Start start = PrepareStart(line, folder);
     const EditorLibrary library((folder + L"\\Quorvane.dll").c_str());

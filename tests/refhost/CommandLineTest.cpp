@@ -48,12 +48,3 @@ TEST(CommandLine, MistakesAreNamed)
     EXPECT_EQ(ErrorOf({L"--machine", L"m.json", L"--open", L"modes"}), "There is no editor \"modes\".");
     EXPECT_EQ(ErrorOf({L"--open", L"printmodes"}), "--open needs --machine.");
 }
-
-TEST(CommandLine, EditorThatThisVersionHasNotIsNotOpened)
-{
-    Editor editor = kEditors[1];
-    editor.exists = false;
-    EXPECT_EQ(ReasonNotToOpen(editor), L"The factory scheme editor is not part of this version.");
-    editor.exists = true;
-    EXPECT_EQ(ReasonNotToOpen(editor), L"");
-}
