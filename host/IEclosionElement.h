@@ -11,14 +11,14 @@ public:
     virtual void Reserved2() {} // 2
     virtual void Reserved3() {} // 3
 
-    /// Width, 1 to 8, in the host's unit.
-    virtual std::int32_t GetWidth() = 0; // 4
+    /// Width, 1 to 8, in the host's unit. Of the result one byte is read.
+    virtual std::uint8_t GetWidth() = 0; // 4
 
     /// See GetWidth.
     virtual void SetWidth(std::int32_t width) = 0; // 5
 
-    /// Height, 1 to 8, in the host's unit.
-    virtual std::int32_t GetHeight() = 0; // 6
+    /// Height, 1 to 8, in the host's unit. Of the result one byte is read.
+    virtual std::uint8_t GetHeight() = 0; // 6
 
     /// See GetHeight.
     virtual void SetHeight(std::int32_t height) = 0; // 7

@@ -78,9 +78,9 @@ public:
     /// colorIndex: 0 to 15, from IInkChannelTable::GetColorIndex.
     virtual void SetInkMultiple(std::uint16_t tenths, std::uint8_t colorIndex) = 0; // 18
 
-    /// Ink cut of a colour in per cent, 0 to 100.
+    /// Ink cut of a colour in per cent, 0 to 100. It is passed as 16 bits and stored as 8.
     /// colorIndex: 0 to 31, from IInkGroupTable::GetColorIndex.
-    virtual void SetInkCut(std::uint8_t percent, std::uint8_t colorIndex) = 0; // 19
+    virtual void SetInkCut(std::uint16_t percent, std::uint8_t colorIndex) = 0; // 19
 
     /// UV lamp flag: 1 when the left lamp burns while the carriage prints to the left, else 0.
     virtual void SetLampLL(std::uint8_t on) = 0; // 20

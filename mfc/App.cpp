@@ -6,8 +6,7 @@ extern "C" IMAGE_DOS_HEADER __ImageBase;
 
 AfxState& AfxGetState()
 {
-    static AfxState state = []
-    {
+    static AfxState state = [] {
         AfxState initial;
         initial.hResource = AfxGetInstanceHandle();
         return initial;

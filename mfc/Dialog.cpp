@@ -218,9 +218,8 @@ void CDialog::OnCancel()
     EndDialog(IDCANCEL);
 }
 
-BOOL CDialog::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+void CDialog::PostNcDestroy()
 {
-    if (message == WM_NCDESTROY && m_bRunning)
-        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
-    return CWnd::OnWndMsg(message, wParam, lParam, pResult);
+    if (m_bRunning)
+        ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0); // the loop may be waiting here too
 }

@@ -145,7 +145,7 @@ protected:
     virtual void OnOK();
     virtual void OnCancel();
     bool IsEnding() const override { return m_bModal && !m_bRunning; }
-    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    void PostNcDestroy() override;
 
     DECLARE_MESSAGE_MAP()
 

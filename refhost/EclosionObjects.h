@@ -21,9 +21,9 @@ public:
 
     const EclosionElement& Values() const { return m_element; }
 
-    std::int32_t GetWidth() override { return Get("GetWidth", m_element.width); }
+    std::uint8_t GetWidth() override { return static_cast<std::uint8_t>(Get("GetWidth", m_element.width)); }
     void SetWidth(std::int32_t width) override { Set("SetWidth", m_element.width, width); }
-    std::int32_t GetHeight() override { return Get("GetHeight", m_element.height); }
+    std::uint8_t GetHeight() override { return static_cast<std::uint8_t>(Get("GetHeight", m_element.height)); }
     void SetHeight(std::int32_t height) override { Set("SetHeight", m_element.height, height); }
 
 private:

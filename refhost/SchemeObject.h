@@ -84,10 +84,10 @@ public:
         Change("SetInkMultiple", tenths, colorIndex);
         PutAt(m_scheme.inkMultiple, colorIndex, tenths);
     }
-    void SetInkCut(std::uint8_t percent, std::uint8_t colorIndex) override
+    void SetInkCut(std::uint16_t percent, std::uint8_t colorIndex) override
     {
         Change("SetInkCut", percent, colorIndex);
-        PutAt(m_scheme.inkCut, colorIndex, percent);
+        PutAt(m_scheme.inkCut, colorIndex, static_cast<std::uint8_t>(percent));
     }
     std::uint16_t GetInkMultiple(std::uint8_t colorIndex) override
     {

@@ -25,7 +25,8 @@ void CDlgPrintModeAddCfg::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintModeAddCfg::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     EnableFields();
     UpdateData(FALSE);
     return TRUE;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 
 #include <afxwin.h>
@@ -7,14 +8,25 @@
 #include <algorithm>
 #include <cstdint>
 
-// Refills a list box or combo box without its being redrawn for every row.
+// While it lives, a list box or combo box is not redrawn for every row.
+class CRedrawOff
+{
+public:
+    explicit CRedrawOff(CWnd& wnd) : m_wnd(wnd) { m_wnd.SetRedraw(FALSE); }
+    ~CRedrawOff() { m_wnd.SetRedraw(TRUE); }
+    CRedrawOff(const CRedrawOff&) = delete;
+    CRedrawOff& operator=(const CRedrawOff&) = delete;
+
+private:
+    CWnd& m_wnd;
+};
+
 template <class List, class Fill>
 void Refill(List& list, Fill fill)
 {
-    list.SetRedraw(FALSE);
+    const CRedrawOff redrawOff(list);
     list.ResetContent();
     fill();
-    list.SetRedraw(TRUE);
 }
 
 // The row to select when one was deleted: the one that moved into its place, else the new last one; -1 for none.
@@ -27,14 +39,12 @@ constexpr int RowAfterDelete(int nDeleted, int nCount)
 template <class HostList>
 void FillNames(CComboBox& combo, HostList* pList)
 {
-    Refill(combo,
-           [&]
-           {
-               const std::uint32_t nCount = pList ? pList->GetCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-               {
-                   auto* pItem = pList->GetAt(i);
-                   combo.AddString(pItem ? HostText(pItem->GetName()).GetString() : L"");
-               }
-           });
+    Refill(combo, [&] {
+        const std::uint32_t nCount = HostCount(pList);
+        for (std::uint32_t i = 0; i < nCount; ++i)
+        {
+            auto* pItem = pList->GetAt(i);
+            combo.AddString(pItem ? HostText(pItem->GetName()).GetString() : L"");
+        }
+    });
 }

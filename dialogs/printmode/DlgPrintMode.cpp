@@ -3,6 +3,7 @@
 #include "dialogs/base/DlgPrintModeAddCfg.h"
 #include "dialogs/base/EditorTab.h"
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/MisreadText.h"
 #include "dialogs/base/Rows.h"
@@ -20,6 +21,26 @@
 namespace
 {
 constexpr std::int32_t SAVE_FACTORY_DATA = 2;
+
+// A configuration on loan from the host; it goes back whatever happens.
+class CNewConfig
+{
+public:
+    explicit CNewConfig(IHostData& data) : m_data(data), m_pConfig(data.CreateConfig()) {}
+    ~CNewConfig()
+    {
+        if (m_pConfig)
+            m_data.DestroyConfig(m_pConfig);
+    }
+    CNewConfig(const CNewConfig&) = delete;
+    CNewConfig& operator=(const CNewConfig&) = delete;
+
+    IPrintConfig* Get() const { return m_pConfig; }
+
+private:
+    IHostData& m_data;
+    IPrintConfig* m_pConfig;
+};
 
 IConfigList* ConfigList()
 {
@@ -60,7 +81,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintMode::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_MODE", this);
     CreatePages();
     m_btnMoveUp.SetWindowText(L"↑");
@@ -101,14 +123,14 @@ void CDlgPrintMode::CreatePages()
 
 void CDlgPrintMode::OnOK()
 {
-    // By Enter the focus is still in a field whose value is written when it leaves.
-    GotoDlgCtrl(&m_btnOk);
+    // By Enter the focus is still in a field whose value is written when it leaves. A refused one is not asked for
+    // again.
+    if (!m_pageCommon.IsRefused())
+        GotoDlgCtrl(&m_btnOk);
     m_pageCommon.StoreToMode();
-    {
-        const CWaitCursor wait;
-        GetHostContext().pControl->SaveParameters(SAVE_FACTORY_DATA);
-    }
-    CDialogEx::OnOK();
+    CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
+    const CWaitCursor wait;
+    GetHostContext().pControl->SaveParameters(SAVE_FACTORY_DATA);
 }
 
 void CDlgPrintMode::OnAddConfig()
@@ -117,28 +139,33 @@ void CDlgPrintMode::OnAddConfig()
     CDlgPrintModeAddCfg dialog;
     if (!pData || dialog.DoModal() != IDOK)
         return;
-    IPrintConfig* pConfig = pData->CreateConfig();
-    if (!pConfig)
-        return;
-    dialog.WriteTo(*pConfig);
-    IConfigList* pList = ConfigList();
-    const bool bAdded = pList && pList->AddConfig(pConfig) != 0;
-    const int nLine =
-        bAdded ? m_lstConfigs.AddString(ConfigText(NarrowReadAsWide(pConfig->GetName()), *pConfig)) : LB_ERR;
-    if (nLine >= 0)
+    const CNewConfig config(*pData);
+    if (config.Get())
     {
-        m_lstConfigs.SetCurSel(nLine);
-        m_lstConfigs.SetRedraw(TRUE);
-        FillModeList(false);
+        dialog.WriteTo(*config.Get());
+        AppendConfig(*config.Get());
     }
-    pData->DestroyConfig(pConfig); // the host keeps its own copy
+}
+
+// The host keeps a copy of its own.
+void CDlgPrintMode::AppendConfig(IPrintConfig& config)
+{
+    IConfigList* pList = ConfigList();
+    if (!pList || !pList->AddConfig(&config))
+        return;
+    const int nLine = m_lstConfigs.AddString(ConfigText(NarrowReadAsWide(config.GetName()), config));
+    if (nLine < 0)
+        return;
+    m_lstConfigs.SetCurSel(nLine);
+    m_lstConfigs.SetRedraw(TRUE);
+    FillModeList(false);
 }
 
 void CDlgPrintMode::OnDeleteConfig()
 {
     const int nLine = m_lstConfigs.GetCurSel();
     IConfigList* pList = ConfigList();
-    if (nLine < 0 || !pList)
+    if (!SelectedConfig())
         return;
     // The configuration's modes go with it: the pages must not keep one of them.
     if (IsAttachedModeListed())
@@ -244,18 +271,15 @@ void CDlgPrintMode::OnApply()
 
 void CDlgPrintMode::FillConfigList(int nSelect)
 {
-    Refill(m_lstConfigs,
-           [this]
-           {
-               IConfigList* pList = ConfigList();
-               const std::uint32_t nCount = pList ? pList->GetCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-               {
-                   IPrintConfig* pConfig = pList->GetAt(i);
-                   m_lstConfigs.AddString(pConfig ? ConfigText(HostTextForFormat(pConfig->GetName()), *pConfig)
-                                                  : CString());
-               }
-           });
+    Refill(m_lstConfigs, [this] {
+        IConfigList* pList = ConfigList();
+        const std::uint32_t nCount = HostCount(pList);
+        for (std::uint32_t i = 0; i < nCount; ++i)
+        {
+            IPrintConfig* pConfig = pList->GetAt(i);
+            m_lstConfigs.AddString(pConfig ? ConfigText(HostTextForFormat(pConfig->GetName()), *pConfig) : CString());
+        }
+    });
     if (m_lstConfigs.GetCount() == 0)
         return;
     m_lstConfigs.SetCurSel(nSelect);
@@ -264,15 +288,13 @@ void CDlgPrintMode::FillConfigList(int nSelect)
 
 void CDlgPrintMode::FillModeList(bool bSkipStore)
 {
-    Refill(m_lstModes,
-           [this]
-           {
-               IPrintConfig* pConfig = SelectedConfig();
-               const std::uint32_t nCount = pConfig ? pConfig->GetModeCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-                   if (IPrintMode* pMode = pConfig->GetMode(i))
-                       InsertMode(m_lstModes.GetCount(), pMode);
-           });
+    Refill(m_lstModes, [this] {
+        IPrintConfig* pConfig = SelectedConfig();
+        const std::uint32_t nCount = pConfig ? SaneCount(pConfig->GetModeCount()) : 0;
+        for (std::uint32_t i = 0; i < nCount; ++i)
+            if (IPrintMode* pMode = pConfig->GetMode(i))
+                InsertMode(m_lstModes.GetCount(), pMode);
+    });
     if (m_lstModes.GetCount() == 0)
         return; // the pages keep their mode, whose edits must not be lost, and the buttons their state
     m_lstModes.SetCurSel(0);

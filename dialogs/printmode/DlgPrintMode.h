@@ -40,6 +40,7 @@ protected:
 
 private:
     void CreatePages();
+    void AppendConfig(IPrintConfig& config);
     void FillConfigList(int nSelect);
     void FillModeList(bool bSkipStore);
     void SelectMode(bool bStoreFirst);

@@ -70,7 +70,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintModeCmmn::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_MODE", this);
     FillFixedLists();
     return TRUE;
@@ -113,7 +114,7 @@ void CDlgPrintModeCmmn::LoadFromMode()
 
 void CDlgPrintModeCmmn::StoreToMode()
 {
-    if (!m_pMode)
+    if (!m_pMode || !m_hWnd)
         return;
     ReadValues();
     CString strPass;
@@ -214,7 +215,7 @@ void CDlgPrintModeCmmn::WriteEdge(EdgeRow& row)
 // are stored.
 void CDlgPrintModeCmmn::ReadValues()
 {
-    if (EditTexts() != m_strRefused)
+    if (!IsRefused())
         UpdateData(TRUE);
     else
         GetDlgItem(IDC_EDIT_NAME)->GetWindowText(m_strName);

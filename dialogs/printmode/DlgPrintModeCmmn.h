@@ -22,6 +22,8 @@ public:
     IPrintMode* GetAttachedMode() const { return m_pMode; }
     void LoadFromMode();
     void StoreToMode();
+    // The operator was already told that a text of the fields, as they stand, cannot be used.
+    bool IsRefused() const { return EditTexts() == m_strRefused; }
 
     int ApplyLanguage() override;
 

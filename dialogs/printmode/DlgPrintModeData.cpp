@@ -1,6 +1,7 @@
 #include "dialogs/printmode/DlgPrintModeData.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "host/IDataMode.h"
 #include "host/IHeadLayout.h"
@@ -24,7 +25,7 @@ int DataModeOf(IHeadLayout& layout, const CString& strText)
 {
     if (strText.CompareNoCase(NO_DATA_MODE) == 0)
         return NO_DATA_MODE_VALUE;
-    const std::uint32_t nCount = layout.GetDataModeCount();
+    const std::uint32_t nCount = SaneCount(layout.GetDataModeCount());
     for (std::uint32_t i = 0; i < nCount; ++i)
     {
         IDataMode* pDataMode = layout.GetDataMode(i);
@@ -43,7 +44,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintModeData::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_MODE", this);
     CreateGrid();
     return TRUE;
@@ -85,7 +87,7 @@ void CDlgPrintModeData::Rebuild()
     m_grid.RemoveAll();
     IHostData* pData = GetHostContext().pData;
     IHeadLayoutList* pList = pData && m_pMode ? pData->GetHeadLayoutList() : nullptr;
-    const std::uint32_t nCount = pList ? pList->GetCount() : 0;
+    const std::uint32_t nCount = HostCount(pList);
     for (std::uint32_t i = 0; i < nCount; ++i)
     {
         IHeadLayout* pLayout = pList->GetAt(i);
@@ -110,7 +112,7 @@ void CDlgPrintModeData::SetOptions(CMFCPropertyGridProperty& property, IHeadLayo
     property.SetValue(NO_DATA_MODE);
     if (nStored == FIRST_DATA_MODE_VALUE)
         m_pMode->SetHeadDataMode(NO_DATA_MODE_VALUE, nRow);
-    const std::uint32_t nCount = layout.GetDataModeCount();
+    const std::uint32_t nCount = SaneCount(layout.GetDataModeCount());
     for (std::uint32_t k = 1; k < nCount; ++k)
     {
         IDataMode* pDataMode = layout.GetDataMode(k);

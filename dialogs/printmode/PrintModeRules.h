@@ -1,5 +1,7 @@
 #pragma once
 
+#include "dialogs/base/HostCount.h"
+
 #include <afxstr.h>
 
 #include <cstdint>
@@ -21,7 +23,7 @@ void RemoveModeOf(IPrintConfig& config, const IPrintMode* pMode);
 template <class SchemeList>
 void RemoveSchemesOfConfig(SchemeList* pList, int nConfig)
 {
-    for (std::uint32_t i = pList ? pList->GetCount() : 0; i-- > 0;)
+    for (std::uint32_t i = HostCount(pList); i-- > 0;)
     {
         auto* pScheme = pList->GetAt(i);
         if (pScheme && pScheme->GetConfigIndex() == nConfig)

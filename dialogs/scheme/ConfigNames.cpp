@@ -1,6 +1,7 @@
 #include "dialogs/scheme/ConfigNames.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/Rows.h"
 #include "host/IConfigList.h"
@@ -21,17 +22,15 @@ CString ConfigName(IPrintConfig& config)
 
 void FillConfigNames(CListBox& list)
 {
-    Refill(list,
-           [&]
-           {
-               IConfigList* pList = GetHostContext().pData->GetConfigList();
-               const std::uint32_t nCount = pList ? pList->GetCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-               {
-                   IPrintConfig* pConfig = pList->GetAt(i);
-                   const int nRow = list.AddString(pConfig ? ConfigName(*pConfig) : CString());
-                   if (nRow >= 0)
-                       list.SetItemData(nRow, reinterpret_cast<DWORD_PTR>(pConfig));
-               }
-           });
+    Refill(list, [&] {
+        IConfigList* pList = GetHostContext().pData->GetConfigList();
+        const std::uint32_t nCount = HostCount(pList);
+        for (std::uint32_t i = 0; i < nCount; ++i)
+        {
+            IPrintConfig* pConfig = pList->GetAt(i);
+            const int nRow = list.AddString(pConfig ? ConfigName(*pConfig) : CString());
+            if (nRow >= 0)
+                list.SetItemData(nRow, reinterpret_cast<DWORD_PTR>(pConfig));
+        }
+    });
 }

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/DlgPrintSchemeCmmn.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/Rows.h"
 #include "host/IActiveSetup.h"
@@ -24,8 +25,8 @@ namespace
 {
 constexpr int MAX_NAME_CHARS = 60;
 
-// A scheme stores its waveform in a signed byte: rows beyond could never be chosen.
-constexpr int MAX_WAVES = 128;
+// A count beyond is junk: a scheme's waveform is read as a signed byte.
+constexpr int MAX_WAVES = 1024;
 
 IActiveSetup* ActiveSetup()
 {
@@ -58,7 +59,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintSchemeCmmn::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillFixedLists();
     LoadFromScheme();
@@ -105,13 +107,11 @@ void CDlgPrintSchemeCmmn::LoadFromScheme()
 
 void CDlgPrintSchemeCmmn::LoadRecord()
 {
-    const bool bFound = WithScheme(
-        [this](auto& scheme)
-        {
-            m_strName = HostText(scheme.GetName());
-            m_cmbSpeed.SetCurSel(std::max<int>(scheme.GetSpeed(), -1) + 1);
-            m_cmbDirection.SetCurSel(std::max<int>(scheme.GetDirection(), 0));
-        });
+    const bool bFound = WithScheme([this](auto& scheme) {
+        m_strName = HostText(scheme.GetName());
+        m_cmbSpeed.SetCurSel(std::max<int>(scheme.GetSpeed(), -1) + 1);
+        m_cmbDirection.SetCurSel(std::max<int>(scheme.GetDirection(), 0));
+    });
     IPrintScheme* pFactory = bFound ? FactoryScheme() : nullptr;
     if (!pFactory)
         return;
@@ -126,19 +126,17 @@ void CDlgPrintSchemeCmmn::SaveToScheme()
     if (!IsEditable())
         return;
     UpdateData(TRUE);
-    WithScheme(
-        [this](auto& scheme)
-        {
-            if (m_strName.GetLength() <= MAX_NAME_CHARS) // a longer one was refused
-                SetHostName(scheme, m_strName);
-            scheme.SetSpeed(static_cast<std::uint8_t>(SelectedData(m_cmbSpeed)));
-            scheme.SetDirection(static_cast<std::uint8_t>(SelectedData(m_cmbDirection)));
-            scheme.SetMaterial(static_cast<std::uint8_t>(SelectedData(m_cmbMaterial)));
-            if constexpr (std::is_same_v<decltype(scheme), IPrintScheme&>)
-                SaveFactoryValues(scheme);
-            else
-                scheme.SetChannel(static_cast<std::uint8_t>(m_cmbChannel.GetCurSel()));
-        });
+    WithScheme([this](auto& scheme) {
+        if (m_strName.GetLength() <= MAX_NAME_CHARS) // a longer one was refused
+            SetHostName(scheme, m_strName);
+        scheme.SetSpeed(static_cast<std::uint8_t>(SelectedData(m_cmbSpeed)));
+        scheme.SetDirection(static_cast<std::uint8_t>(SelectedData(m_cmbDirection)));
+        scheme.SetMaterial(static_cast<std::uint8_t>(SelectedData(m_cmbMaterial)));
+        if constexpr (std::is_same_v<decltype(scheme), IPrintScheme&>)
+            SaveFactoryValues(scheme);
+        else
+            scheme.SetChannel(static_cast<std::uint8_t>(m_cmbChannel.GetCurSel()));
+    });
 }
 
 void CDlgPrintSchemeCmmn::SaveFactoryValues(IPrintScheme& scheme) const
@@ -183,22 +181,20 @@ void CDlgPrintSchemeCmmn::FillMaterials()
 {
     const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetMaterial(); }, 0);
     int nSelect = 0;
-    Refill(m_cmbMaterial,
-           [&]
-           {
-               AddRow(m_cmbMaterial, GetLanguageText(L"UNLIMIT", L""), -1);
-               IMaterialList* pList = GetHostContext().pData->GetMaterialList();
-               const std::uint32_t nCount = pList && ActiveSetup() ? pList->GetCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-               {
-                   IMaterial* pMaterial = pList->GetAt(i);
-                   if (!pMaterial)
-                       continue;
-                   const int nRow = AddRow(m_cmbMaterial, HostText(pMaterial->GetName()), pMaterial->GetId());
-                   if (pMaterial->GetId() == nCurrent)
-                       nSelect = nRow;
-               }
-           });
+    Refill(m_cmbMaterial, [&] {
+        AddRow(m_cmbMaterial, GetLanguageText(L"UNLIMIT", L""), -1);
+        IMaterialList* pList = GetHostContext().pData->GetMaterialList();
+        const std::uint32_t nCount = ActiveSetup() ? HostCount(pList) : 0;
+        for (std::uint32_t i = 0; i < nCount; ++i)
+        {
+            IMaterial* pMaterial = pList->GetAt(i);
+            if (!pMaterial)
+                continue;
+            const int nRow = AddRow(m_cmbMaterial, HostText(pMaterial->GetName()), pMaterial->GetId());
+            if (pMaterial->GetId() == nCurrent)
+                nSelect = nRow;
+        }
+    });
     m_cmbMaterial.SetCurSel(nSelect);
 }
 
@@ -207,18 +203,16 @@ void CDlgPrintSchemeCmmn::FillWaves()
     IPrintScheme* pScheme = FactoryScheme();
     const int nCurrent = pScheme ? pScheme->GetWave() : -1;
     const int nCount = std::min(ParamValue(TABLE_WAVEFORM_COUNT, 0), MAX_WAVES);
-    Refill(m_cmbWave,
-           [&]
-           {
-               AddRow(m_cmbWave, GetLanguageText(L"UNLIMIT", L""), -1);
-               const CString strWave = nCount > 0 ? GetLanguageText(L"WAVE", L"波形") : CString();
-               for (int i = 0; i < nCount; ++i)
-               {
-                   CString strRow;
-                   strRow.Format(L"%s%d", strWave.GetString(), i);
-                   m_cmbWave.AddString(strRow);
-               }
-           });
+    Refill(m_cmbWave, [&] {
+        AddRow(m_cmbWave, GetLanguageText(L"UNLIMIT", L""), -1);
+        const CString strWave = nCount > 0 ? GetLanguageText(L"WAVE", L"波形") : CString();
+        for (int i = 0; i < nCount; ++i)
+        {
+            CString strRow;
+            strRow.Format(L"%s%d", strWave.GetString(), i);
+            m_cmbWave.AddString(strRow);
+        }
+    });
     m_cmbWave.SetCurSel(nCurrent >= 0 && nCurrent < nCount ? nCurrent + 1 : 0);
 }
 
@@ -226,23 +220,21 @@ void CDlgPrintSchemeCmmn::FillChannels()
 {
     const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetChannel(); }, 0);
     int nSelect = -1;
-    Refill(m_cmbChannel,
-           [&]
-           {
-               IChannelList* pList = GetHostContext().pData->GetChannelList();
-               IActiveSetup* pActive = ActiveSetup();
-               const int nCount = pList && pActive ? static_cast<int>(pList->GetCount()) : 0;
-               for (int i = 0; i < nCount; ++i)
-               {
-                   IChannelSetup* pSetup = pList->GetAt(static_cast<std::uint32_t>(i));
-                   if (!pSetup || pSetup->FindSetup(pActive->GetId()) < 0)
-                       continue;
-                   const CString strName = HostText(pSetup->GetName());
-                   AddRow(m_cmbChannel, GetLanguageText(strName, strName), i);
-                   if (i == nCurrent)
-                       nSelect = i; // the stored index is used as the row, whatever was left out before it
-               }
-           });
+    Refill(m_cmbChannel, [&] {
+        IChannelList* pList = GetHostContext().pData->GetChannelList();
+        IActiveSetup* pActive = ActiveSetup();
+        const int nCount = pActive ? static_cast<int>(HostCount(pList)) : 0;
+        for (int i = 0; i < nCount; ++i)
+        {
+            IChannelSetup* pSetup = pList->GetAt(static_cast<std::uint32_t>(i));
+            if (!pSetup || pSetup->FindSetup(pActive->GetId()) < 0)
+                continue;
+            const CString strName = HostText(pSetup->GetName());
+            AddRow(m_cmbChannel, GetLanguageText(strName, strName), i);
+            if (i == nCurrent)
+                nSelect = i; // the stored index is used as the row, whatever was left out before it
+        }
+    });
     m_cmbChannel.SetCurSel(nSelect);
 }
 
@@ -250,21 +242,19 @@ void CDlgPrintSchemeCmmn::FillLayouts()
 {
     IPrintScheme* pScheme = FactoryScheme();
     int nSelect = 0;
-    Refill(m_cmbLayout,
-           [&]
-           {
-               ILayoutList* pList = pScheme ? GetHostContext().pData->GetLayoutList() : nullptr;
-               const int nCount = pList ? static_cast<int>(pList->GetCount()) : 0;
-               for (int i = 0; i < nCount; ++i)
-               {
-                   ILayout* pLayout = pList->GetAt(static_cast<std::uint32_t>(i));
-                   const int nRow = m_cmbLayout.AddString(pLayout ? HostText(pLayout->GetName()).GetString() : L"");
-                   if (nRow >= 0)
-                       m_cmbLayout.SetItemData(nRow, reinterpret_cast<DWORD_PTR>(pLayout));
-                   if (pLayout && pLayout->GetId() == pScheme->GetLayoutId())
-                       nSelect = i;
-               }
-           });
+    Refill(m_cmbLayout, [&] {
+        ILayoutList* pList = pScheme ? GetHostContext().pData->GetLayoutList() : nullptr;
+        const int nCount = static_cast<int>(HostCount(pList));
+        for (int i = 0; i < nCount; ++i)
+        {
+            ILayout* pLayout = pList->GetAt(static_cast<std::uint32_t>(i));
+            const int nRow = m_cmbLayout.AddString(pLayout ? HostText(pLayout->GetName()).GetString() : L"");
+            if (nRow >= 0)
+                m_cmbLayout.SetItemData(nRow, reinterpret_cast<DWORD_PTR>(pLayout));
+            if (pLayout && pLayout->GetId() == pScheme->GetLayoutId())
+                nSelect = i;
+        }
+    });
     m_cmbLayout.SetCurSel(nSelect);
 }
 
@@ -273,21 +263,19 @@ void CDlgPrintSchemeCmmn::FillHeads()
     IPrintScheme* pScheme = FactoryScheme();
     ILayout* pLayout = SelectedLayout();
     int nSelect = 0;
-    Refill(m_cmbHead,
-           [&]
-           {
-               IHeadLayoutList* pList = pScheme && pLayout ? GetHostContext().pData->GetHeadLayoutList() : nullptr;
-               const std::uint32_t nCount = pList ? pList->GetCount() : 0;
-               for (std::uint32_t i = 0; i < nCount; ++i)
-               {
-                   IHeadLayout* pHead = pList->GetAt(i);
-                   if (!pHead || pHead->GetLayoutId() != pLayout->GetId())
-                       continue;
-                   const int nRow = AddRow(m_cmbHead, HostText(pHead->GetName()), pHead->GetId());
-                   if (pHead->GetId() == pScheme->GetHeadId())
-                       nSelect = nRow;
-               }
-           });
+    Refill(m_cmbHead, [&] {
+        IHeadLayoutList* pList = pScheme && pLayout ? GetHostContext().pData->GetHeadLayoutList() : nullptr;
+        const std::uint32_t nCount = HostCount(pList);
+        for (std::uint32_t i = 0; i < nCount; ++i)
+        {
+            IHeadLayout* pHead = pList->GetAt(i);
+            if (!pHead || pHead->GetLayoutId() != pLayout->GetId())
+                continue;
+            const int nRow = AddRow(m_cmbHead, HostText(pHead->GetName()), pHead->GetId());
+            if (pHead->GetId() == pScheme->GetHeadId())
+                nSelect = nRow;
+        }
+    });
     m_cmbHead.SetCurSel(nSelect);
 }
 

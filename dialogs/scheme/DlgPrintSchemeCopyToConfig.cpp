@@ -15,7 +15,8 @@ void CDlgPrintSchemeCopyToConfig::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintSchemeCopyToConfig::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     SetWindowText(GetLanguageText(L"SELECT_CONFIG", L""));
     FillConfigNames(m_lstConfigs);

@@ -83,7 +83,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintSchemeCustomEclosion::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_CUSTOM_ECLOSION", this);
     InitTrackbars();
     if (IHostData* pData = GetHostContext().pData)
@@ -159,6 +160,8 @@ void CDlgPrintSchemeCustomEclosion::OnAddMode()
     if (!pEclosion || pEclosion->GetModeCount() == MAX_MODES)
         return;
     IEclosionMode* pMode = pEclosion->AddMode();
+    if (!pMode)
+        return;
     m_nCurMode = static_cast<int>(pEclosion->GetModeCount()) - 1;
     pEclosion->SetCurrentMode(m_nCurMode);
     ShowElements(pMode);

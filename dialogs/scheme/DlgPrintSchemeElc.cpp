@@ -66,7 +66,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintSchemeElc::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillFixedLists();
     UpdateCtrlState();
@@ -118,17 +119,15 @@ void CDlgPrintSchemeElc::LoadFromScheme()
         return;
     FillTypes();
     FillLevels();
-    WithScheme(
-        [this](auto& scheme)
-        {
-            m_nCustomRange = scheme.GetCustomRange();
-            m_nRangeSS = scheme.GetDefaultRangeSS();
-            m_nRangeS = scheme.GetDefaultRangeS();
-            m_nRangeM = scheme.GetDefaultRangeM();
-            m_nRangeL = scheme.GetDefaultRangeL();
-            m_cmbDotMode.SetCurSel(scheme.GetDotMode());
-            m_cmbHeadEclosionType.SetCurSel(scheme.GetHeadEclosionType());
-        });
+    WithScheme([this](auto& scheme) {
+        m_nCustomRange = scheme.GetCustomRange();
+        m_nRangeSS = scheme.GetDefaultRangeSS();
+        m_nRangeS = scheme.GetDefaultRangeS();
+        m_nRangeM = scheme.GetDefaultRangeM();
+        m_nRangeL = scheme.GetDefaultRangeL();
+        m_cmbDotMode.SetCurSel(scheme.GetDotMode());
+        m_cmbHeadEclosionType.SetCurSel(scheme.GetHeadEclosionType());
+    });
     m_sliderCustomRange.SetPos(m_nCustomRange);
     m_bOpenCustomOnType = false;
     OnTypeChange();
@@ -142,19 +141,17 @@ void CDlgPrintSchemeElc::SaveToScheme()
     if (!IsEditable() || !UpdateData(TRUE))
         return;
     const auto byteOf = [](int nValue) { return static_cast<std::uint8_t>(nValue); };
-    WithScheme(
-        [&](auto& scheme)
-        {
-            scheme.SetEclosionType(byteOf(SelectedData(m_cmbEclosionType)));
-            scheme.SetEclosionLevel(LevelCodeOfRow(m_cmbEclosionLevel.GetCurSel()));
-            scheme.SetCustomRange(byteOf(m_nCustomRange));
-            scheme.SetDefaultRangeSS(byteOf(m_nRangeSS));
-            scheme.SetDefaultRangeS(byteOf(m_nRangeS));
-            scheme.SetDefaultRangeM(byteOf(m_nRangeM));
-            scheme.SetDefaultRangeL(byteOf(m_nRangeL));
-            scheme.SetDotMode(byteOf(m_cmbDotMode.GetCurSel()));
-            scheme.SetHeadEclosionType(byteOf(m_cmbHeadEclosionType.GetCurSel()));
-        });
+    WithScheme([&](auto& scheme) {
+        scheme.SetEclosionType(byteOf(SelectedData(m_cmbEclosionType)));
+        scheme.SetEclosionLevel(LevelCodeOfRow(m_cmbEclosionLevel.GetCurSel()));
+        scheme.SetCustomRange(byteOf(m_nCustomRange));
+        scheme.SetDefaultRangeSS(byteOf(m_nRangeSS));
+        scheme.SetDefaultRangeS(byteOf(m_nRangeS));
+        scheme.SetDefaultRangeM(byteOf(m_nRangeM));
+        scheme.SetDefaultRangeL(byteOf(m_nRangeL));
+        scheme.SetDotMode(byteOf(m_cmbDotMode.GetCurSel()));
+        scheme.SetHeadEclosionType(byteOf(m_cmbHeadEclosionType.GetCurSel()));
+    });
     UpdateData(FALSE);
 }
 
@@ -171,14 +168,12 @@ void CDlgPrintSchemeElc::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollB
 void CDlgPrintSchemeElc::OnCustomEclosion()
 {
     CDlgPrintSchemeCustomEclosion dialog;
-    if (RunModal(&dialog, L"Quorvane.dll") != IDOK)
+    if (!IsEditable() || RunModal(&dialog, L"Quorvane.dll") != IDOK)
         return;
-    WithScheme(
-        [](auto& scheme)
-        {
-            if (ICustomEclosionSet* pSet = GetHostContext().pData->GetCustomEclosionSet())
-                scheme.SetCustomEclosionId(static_cast<std::uint32_t>(pSet->GetCurrentIndex()));
-        });
+    WithScheme([](auto& scheme) {
+        if (ICustomEclosionSet* pSet = GetHostContext().pData->GetCustomEclosionSet())
+            scheme.SetCustomEclosionId(static_cast<std::uint32_t>(pSet->GetCurrentIndex()));
+    });
 }
 
 // A new type enables the trackbar whatever the level is; only a new level or a load looks at the level.
@@ -215,36 +210,32 @@ void CDlgPrintSchemeElc::FillTypes()
 {
     const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetEclosionType(); }, 0);
     int nSelect = -1;
-    Refill(m_cmbEclosionType,
-           [&]
-           {
-               const int nCount = std::min(ParamCount(TABLE_ECLOSION_TYPES), MAX_TYPES);
-               for (int i = 0; i < nCount; ++i)
-               {
-                   if (ParamValue(TABLE_ECLOSION_TYPES, i) == 0)
-                       continue;
-                   CString strKey;
-                   strKey.Format(L"ECL%d_ID", i);
-                   const int nRow = AddRow(m_cmbEclosionType, GetLanguageText(strKey, strKey), i);
-                   if (i == nCurrent)
-                       nSelect = nRow;
-               }
-           });
+    Refill(m_cmbEclosionType, [&] {
+        const int nCount = std::min(ParamCount(TABLE_ECLOSION_TYPES), MAX_TYPES);
+        for (int i = 0; i < nCount; ++i)
+        {
+            if (ParamValue(TABLE_ECLOSION_TYPES, i) == 0)
+                continue;
+            CString strKey;
+            strKey.Format(L"ECL%d_ID", i);
+            const int nRow = AddRow(m_cmbEclosionType, GetLanguageText(strKey, strKey), i);
+            if (i == nCurrent)
+                nSelect = nRow;
+        }
+    });
     m_cmbEclosionType.SetCurSel(nSelect);
 }
 
 void CDlgPrintSchemeElc::FillLevels()
 {
-    Refill(m_cmbEclosionLevel,
-           [this]
-           {
-               m_cmbEclosionLevel.AddString(GetLanguageText(L"CLOSE_ECLOSION", L"Close Eclosion"));
-               m_cmbEclosionLevel.AddString(GetLanguageText(L"LIGHT_ECLOSION", L"Light Eclosion"));
-               m_cmbEclosionLevel.AddString(GetLanguageText(L"NORMAL_ECLOSION", L"Normal Eclosion"));
-               m_cmbEclosionLevel.AddString(GetLanguageText(L"DEPTH_ECLOSION", L"Depth Eclosion"));
-               m_cmbEclosionLevel.AddString(GetLanguageText(L"SUPER_ECLOSION", L"Super Eclosion"));
-               if (ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0)
-                   m_cmbEclosionLevel.AddString(GetLanguageText(L"CUSTOM_ECLOSION", L"Custom Eclosion"));
-           });
+    Refill(m_cmbEclosionLevel, [this] {
+        m_cmbEclosionLevel.AddString(GetLanguageText(L"CLOSE_ECLOSION", L"Close Eclosion"));
+        m_cmbEclosionLevel.AddString(GetLanguageText(L"LIGHT_ECLOSION", L"Light Eclosion"));
+        m_cmbEclosionLevel.AddString(GetLanguageText(L"NORMAL_ECLOSION", L"Normal Eclosion"));
+        m_cmbEclosionLevel.AddString(GetLanguageText(L"DEPTH_ECLOSION", L"Depth Eclosion"));
+        m_cmbEclosionLevel.AddString(GetLanguageText(L"SUPER_ECLOSION", L"Super Eclosion"));
+        if (ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0)
+            m_cmbEclosionLevel.AddString(GetLanguageText(L"CUSTOM_ECLOSION", L"Custom Eclosion"));
+    });
     m_cmbEclosionLevel.SetCurSel(LevelRowOfCode(ValueOf([](auto& scheme) { return scheme.GetEclosionLevel(); }, 0)));
 }

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/DlgPrintSchemeFcty.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/scheme/DlgPrintSchemeCopyToConfig.h"
 #include "dialogs/scheme/SchemeNames.h"
@@ -101,15 +102,13 @@ void CDlgPrintSchemeFcty::OnCopyScheme()
 
 void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
 {
-    IFactorySchemeList* pList = FactorySchemes();
+    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
+    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
+    IFactorySchemeList* pList = pConfig ? FactorySchemes() : nullptr;
     IPrintScheme* pCopy = AddSchemeTo(pList);
     if (!pCopy)
         return;
     CopyParams(*pCopy, pList->GetAt(static_cast<std::uint32_t>(nSourceId)));
-    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
-    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
-    if (!pConfig)
-        return;
     pCopy->SetConfigIndex(static_cast<std::uint8_t>(nConfig));
     pCopy->SetName(CopiedSchemeName(pConfig->GetXResolution(), pConfig->GetYResolution()).c_str());
     if (static_cast<int>(nConfig) == m_lstConfigs.GetCurSel())
@@ -167,7 +166,7 @@ void CDlgPrintSchemeFcty::FillSchemeList()
 void CDlgPrintSchemeFcty::AddSchemesOf(int nConfig)
 {
     IFactorySchemeList* pList = FactorySchemes();
-    const std::uint32_t nCount = pList ? pList->GetCount() : 0;
+    const std::uint32_t nCount = HostCount(pList);
     // A scheme beyond has no id; taken for one, it would name a user scheme.
     const int nListed = static_cast<int>(std::min<std::uint32_t>(nCount, FIRST_USER_SCHEME));
     for (int i = 0; i < nListed; ++i)

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/DlgPrintSchemeInkCut.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "host/IActiveSetup.h"
 #include "host/IDeviceState.h"
@@ -31,7 +32,7 @@ void ForEachActiveGroup(Visitor visit)
     IInkGroupTable* pTable = InkGroups();
     IDeviceState* pState = GetHostContext().pData->GetDeviceState();
     IActiveSetup* pSetup = pTable && pState ? pState->GetActiveSetup() : nullptr;
-    const std::uint32_t nCount = pSetup ? pSetup->GetGroupCount() : 0;
+    const std::uint32_t nCount = pSetup ? SaneCount(pSetup->GetGroupCount()) : 0;
     for (std::uint32_t i = 0; i < nCount; ++i)
         if (IInkGroup* pGroup = pTable->GetGroup(pSetup->GetGroupId(i)))
             visit(*pGroup);
@@ -60,7 +61,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintSchemeInkCut::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     for (CSliderCtrl& slider : m_sliderInkCut)
         slider.SetRange(0, MAX_PERCENT);
@@ -98,11 +100,12 @@ void CDlgPrintSchemeInkCut::SaveToScheme()
         return;
     UpdateData(TRUE);
     const Groups groups = GroupsOfRows();
-    for (size_t k = 0; k < groups.size(); ++k)
+    IInkGroupTable* pTable = InkGroups();
+    for (size_t k = 0; pTable && k < groups.size(); ++k)
     {
         if (!groups[k])
             continue;
-        const std::uint8_t nColor = InkGroups()->GetColorIndex(groups[k]->GetId());
+        const std::uint8_t nColor = pTable->GetColorIndex(groups[k]->GetId());
         const auto nPercent = static_cast<std::uint8_t>(m_sliderInkCut[k].GetPos());
         WithScheme([=](auto& scheme) { scheme.SetInkCut(nPercent, nColor); });
     }
@@ -125,19 +128,17 @@ CDlgPrintSchemeInkCut::Groups CDlgPrintSchemeInkCut::GroupsOfRows()
 {
     Groups groups{};
     std::uint32_t nRows = MIN_PROBED_ROWS;
-    ForEachActiveGroup(
-        [&](IInkGroup& group)
+    ForEachActiveGroup([&](IInkGroup& group) {
+        const std::uint32_t nChannels = SaneCount(group.GetChannelCount());
+        nRows = std::max(nRows, nChannels);
+        for (std::uint32_t i = 0; i < nChannels; ++i)
         {
-            const std::uint32_t nChannels = group.GetChannelCount();
-            nRows = std::max(nRows, nChannels);
-            for (std::uint32_t i = 0; i < nChannels; ++i)
-            {
-                IInkChannel* pChannel = group.GetChannel(i);
-                const size_t nRow = pChannel ? pChannel->GetId() : groups.size();
-                if (nRow < groups.size() && !groups[nRow])
-                    groups[nRow] = &group;
-            }
-        });
+            IInkChannel* pChannel = group.GetChannel(i);
+            const size_t nRow = pChannel ? pChannel->GetId() : groups.size();
+            if (nRow < groups.size() && !groups[nRow])
+                groups[nRow] = &group;
+        }
+    });
     for (size_t k = nRows; k < groups.size(); ++k)
         groups[k] = nullptr;
     return groups;
@@ -154,7 +155,8 @@ void CDlgPrintSchemeInkCut::LoadRow(size_t nRow, IInkGroup& group)
 {
     const CString strName = HostText(group.GetName());
     m_lblColor[nRow].SetWindowText(GetLanguageText(strName, strName));
-    const std::uint8_t nColor = InkGroups()->GetColorIndex(group.GetId());
+    IInkGroupTable* pTable = InkGroups();
+    const std::uint8_t nColor = pTable ? pTable->GetColorIndex(group.GetId()) : std::uint8_t{0};
     const int nPercent = ValueOf([=](auto& scheme) { return scheme.GetInkCut(nColor); }, 0);
     m_fInkCut[nRow] = static_cast<float>(nPercent);
     m_sliderInkCut[nRow].SetPos(nPercent);

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/DlgPrintSchemeInkMul.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/Rows.h"
 #include "host/IHostData.h"
@@ -41,7 +42,8 @@ void CDlgPrintSchemeInkMul::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintSchemeInkMul::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     UpdateCtrlState();
     LoadFromScheme();
@@ -103,16 +105,14 @@ void CDlgPrintSchemeInkMul::LoadRow(int nRow)
 
 void CDlgPrintSchemeInkMul::FillMultiples(CComboBox& combo, int nMultiple)
 {
-    Refill(combo,
-           [&]
-           {
-               for (int i = 1; i <= MAX_MULTIPLE; ++i)
-               {
-                   CString strRow;
-                   strRow.Format(L"%d", i);
-                   AddRow(combo, strRow, i);
-               }
-           });
+    Refill(combo, [&] {
+        for (int i = 1; i <= MAX_MULTIPLE; ++i)
+        {
+            CString strRow;
+            strRow.Format(L"%d", i);
+            AddRow(combo, strRow, i);
+        }
+    });
     combo.SetCurSel(nMultiple >= 1 && nMultiple <= MAX_MULTIPLE ? nMultiple - 1 : 0);
 }
 
@@ -134,7 +134,7 @@ std::vector<IInkChannel*> CDlgPrintSchemeInkMul::ChannelsOfLayout() const
 bool CDlgPrintSchemeInkMul::HasLayout(std::uint8_t nLayoutId) const
 {
     ILayoutList* pList = GetHostContext().pData->GetLayoutList();
-    const std::uint32_t nCount = pList ? pList->GetCount() : 0;
+    const std::uint32_t nCount = HostCount(pList);
     for (std::uint32_t i = 0; i < nCount; ++i)
     {
         ILayout* pLayout = pList->GetAt(i);

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/DlgPrintSchemeMode.h"
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/PassCounts.h"
 #include "host/IConfigList.h"
@@ -26,7 +27,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintSchemeMode::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillFixedLists();
     LoadFromScheme();
@@ -92,7 +94,7 @@ int CDlgPrintSchemeMode::FillModes(IPrintConfig& config, int nModeIndex)
 {
     int nFound = -1;
     m_cmbMode.ResetContent();
-    const int nCount = static_cast<int>(config.GetModeCount());
+    const int nCount = static_cast<int>(SaneCount(config.GetModeCount()));
     for (int k = 0; k < nCount; ++k)
     {
         IPrintMode* pMode = config.GetMode(static_cast<std::uint32_t>(k));

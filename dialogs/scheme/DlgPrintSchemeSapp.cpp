@@ -14,7 +14,8 @@ void CDlgPrintSchemeSapp::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintSchemeSapp::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillSwitch(m_cmbSmallMode, L"", L"");
     m_cmbSmallMode.SetCurSel(1);

@@ -23,7 +23,8 @@ void CDlgPrintSchemeUv::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintSchemeUv::OnInitDialog()
 {
-    CSchemePage::OnInitDialog();
+    if (!CSchemePage::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     UpdateCtrlState();
     LoadFromScheme();
@@ -54,14 +55,12 @@ void CDlgPrintSchemeUv::LoadFromScheme()
 {
     if (m_nSchemeId < 0)
         return;
-    WithScheme(
-        [this](auto& scheme)
-        {
-            m_bLPrintLLight = scheme.GetLampLL();
-            m_bLPrintRLight = scheme.GetLampLR();
-            m_bRPrintLLight = scheme.GetLampRL();
-            m_bRPrintRLight = scheme.GetLampRR();
-        });
+    WithScheme([this](auto& scheme) {
+        m_bLPrintLLight = scheme.GetLampLL();
+        m_bLPrintRLight = scheme.GetLampLR();
+        m_bRPrintLLight = scheme.GetLampRL();
+        m_bRPrintRLight = scheme.GetLampRR();
+    });
     UpdateData(FALSE);
 }
 
@@ -70,12 +69,10 @@ void CDlgPrintSchemeUv::SaveToScheme()
     if (!IsEditable())
         return;
     UpdateData(TRUE);
-    WithScheme(
-        [this](auto& scheme)
-        {
-            scheme.SetLampLL(static_cast<std::uint8_t>(m_bLPrintLLight));
-            scheme.SetLampLR(static_cast<std::uint8_t>(m_bLPrintRLight));
-            scheme.SetLampRL(static_cast<std::uint8_t>(m_bRPrintLLight));
-            scheme.SetLampRR(static_cast<std::uint8_t>(m_bRPrintRLight));
-        });
+    WithScheme([this](auto& scheme) {
+        scheme.SetLampLL(static_cast<std::uint8_t>(m_bLPrintLLight));
+        scheme.SetLampLR(static_cast<std::uint8_t>(m_bLPrintRLight));
+        scheme.SetLampRL(static_cast<std::uint8_t>(m_bRPrintLLight));
+        scheme.SetLampRR(static_cast<std::uint8_t>(m_bRPrintRLight));
+    });
 }

@@ -36,7 +36,8 @@ END_MESSAGE_MAP()
 
 BOOL CDlgSchemeEditor::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     CreatePages();
     if (GetHostContext().pData)
@@ -90,11 +91,9 @@ void CDlgSchemeEditor::OnOK()
     SavePages();
     for (int nSchemeId : m_deletions.InRemovalOrder())
         RemoveFromHost(nSchemeId);
-    {
-        const CWaitCursor wait;
-        GetHostContext().pControl->SaveParameters(static_cast<std::uint32_t>(m_nSaveKind));
-    }
-    CDialogEx::OnOK();
+    CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
+    const CWaitCursor wait;
+    GetHostContext().pControl->SaveParameters(static_cast<std::uint32_t>(m_nSaveKind));
 }
 
 void CDlgSchemeEditor::OnDeleteScheme()

@@ -3,6 +3,8 @@
 void CSchemePage::ShowScheme(int nSchemeId)
 {
     m_nSchemeId = nSchemeId;
+    if (!m_hWnd)
+        return;
     UpdateCtrlState();
     LoadFromScheme();
 }

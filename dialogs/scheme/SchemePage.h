@@ -12,7 +12,7 @@ class CSchemePage : public CDialogEx, public CDlgBase
 public:
     using CDialogEx::CDialogEx;
 
-    // Names the scheme, sets the controls' state and loads.
+    // Names the scheme; with a window, sets the controls' state and loads too.
     void ShowScheme(int nSchemeId);
 
     // Enables the controls from the scheme id and the editor; nothing while they are not created.

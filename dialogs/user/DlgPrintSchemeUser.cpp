@@ -73,17 +73,15 @@ void CDlgPrintSchemeUser::OnAddScheme()
 void CDlgPrintSchemeUser::FillSchemeList()
 {
     const int nConfig = m_lstConfigs.GetCurSel();
-    Refill(m_lstSchemes,
-           [&]
-           {
-               if (nConfig < 0)
-                   return;
-               AddPresets(nConfig);
-               if (m_lstSchemes.GetCount() > 0)
-                   AddSchemeRow(DIVIDER, NO_SCHEME);
-               AddUserSchemes(nConfig);
-               EnableControl(m_btnAdd, m_lstSchemes.GetCount() > 0);
-           });
+    Refill(m_lstSchemes, [&] {
+        if (nConfig < 0)
+            return;
+        AddPresets(nConfig);
+        if (m_lstSchemes.GetCount() > 0)
+            AddSchemeRow(DIVIDER, NO_SCHEME);
+        AddUserSchemes(nConfig);
+        EnableControl(m_btnAdd, m_lstSchemes.GetCount() > 0);
+    });
     if (nConfig >= 0)
         SelectScheme(true);
 }
@@ -91,19 +89,22 @@ void CDlgPrintSchemeUser::FillSchemeList()
 void CDlgPrintSchemeUser::AddPresets(int nConfig)
 {
     const CString strPreset = GetLanguageText(L"PRESET", L"预设");
-    ForEachPreset(nConfig, [&](IPrintScheme& scheme, int nSchemeId)
-                  { AddSchemeRow(PresetText(scheme.GetName(), strPreset), nSchemeId); });
+    ForEachPreset(nConfig, [&](IPrintScheme& scheme, int nSchemeId) {
+        AddSchemeRow(PresetText(scheme.GetName(), strPreset), nSchemeId);
+    });
 }
 
 void CDlgPrintSchemeUser::AddUserSchemes(int nConfig)
 {
-    ForEachUserScheme(nConfig, [&](IUserScheme& scheme, int nSchemeId)
-                      { AddSchemeRow(NarrowReadAsWide(scheme.GetName()).c_str(), nSchemeId); });
+    ForEachUserScheme(nConfig, [&](IUserScheme& scheme, int nSchemeId) {
+        AddSchemeRow(NarrowReadAsWide(scheme.GetName()).c_str(), nSchemeId);
+    });
 }
 
 void CDlgPrintSchemeUser::RemoveFromHost(int nSchemeId)
 {
-    const int nIndex = nSchemeId - FIRST_USER_SCHEME;
-    if (UserSchemeAt(nIndex))
-        UserSchemes()->RemoveAt(static_cast<std::uint32_t>(nIndex));
+    IUserSchemeList* pList = UserSchemes();
+    const auto nIndex = static_cast<std::uint32_t>(nSchemeId - FIRST_USER_SCHEME);
+    if (pList && pList->GetAt(nIndex))
+        pList->RemoveAt(nIndex);
 }

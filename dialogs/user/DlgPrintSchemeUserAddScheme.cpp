@@ -6,7 +6,7 @@
 #include "resources/resource.h"
 
 CDlgPrintSchemeUserAddScheme::CDlgPrintSchemeUserAddScheme(int nConfigIndex, int nSource)
-    : CDialogEx(IDD_USER_ADD_SCHEME), m_nSource(nSource), m_nConfigIndex(nConfigIndex)
+    : CDialogEx(IDD_USER_ADD_SCHEME), m_nSource(nSource), m_nConfigIndex(static_cast<std::uint8_t>(nConfigIndex))
 {
 }
 
@@ -19,7 +19,8 @@ void CDlgPrintSchemeUserAddScheme::DoDataExchange(CDataExchange* pDX)
 
 BOOL CDlgPrintSchemeUserAddScheme::OnInitDialog()
 {
-    CDialogEx::OnInitDialog();
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     SetWindowText(GetLanguageText(L"ADD_SCHEME", L""));
     FillSources();
@@ -52,15 +53,15 @@ void CDlgPrintSchemeUserAddScheme::OnOK()
 void CDlgPrintSchemeUserAddScheme::FillSources()
 {
     int nSelect = 0;
-    Refill(m_cmbSource,
-           [&]
-           {
-               const CString strPreset = GetLanguageText(L"PRESET", L"预设");
-               ForEachPreset(m_nConfigIndex, [&](IPrintScheme& scheme, int nSchemeId)
-                             { AddSource(PresetText(scheme.GetName(), strPreset), nSchemeId, nSelect); });
-               ForEachUserScheme(m_nConfigIndex, [&](IUserScheme& scheme, int nSchemeId)
-                                 { AddSource(HostText(scheme.GetName()), nSchemeId, nSelect); });
-           });
+    Refill(m_cmbSource, [&] {
+        const CString strPreset = GetLanguageText(L"PRESET", L"预设");
+        ForEachPreset(m_nConfigIndex, [&](IPrintScheme& scheme, int nSchemeId) {
+            AddSource(PresetText(scheme.GetName(), strPreset), nSchemeId, nSelect);
+        });
+        ForEachUserScheme(m_nConfigIndex, [&](IUserScheme& scheme, int nSchemeId) {
+            AddSource(HostText(scheme.GetName()), nSchemeId, nSelect);
+        });
+    });
     m_cmbSource.SetCurSel(nSelect);
     IUserSchemeList* pUserSchemes = GetHostContext().pData->GetUserSchemeList();
     m_strName.Format(L"%s-%d", GetLanguageText(L"SCHEME", L"方案").GetString(),

@@ -4,6 +4,8 @@
 
 #include <afxdialogex.h>
 
+#include <cstdint>
+
 // Asks for the name and the source of a new user scheme. The editor makes the scheme.
 class CDlgPrintSchemeUserAddScheme : public CDialogEx, public CDlgBase
 {
@@ -25,6 +27,6 @@ private:
     void FillSources();
     void AddSource(LPCTSTR pszText, int nSchemeId, int& nSelect);
 
-    int m_nConfigIndex;
+    std::uint8_t m_nConfigIndex; // as wide as schemes store it
     CComboBox m_cmbSource;
 };

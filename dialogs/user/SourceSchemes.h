@@ -1,6 +1,7 @@
 #pragma once
 
 #include "dialogs/base/HostContext.h"
+#include "dialogs/base/HostCount.h"
 #include "dialogs/base/MisreadText.h"
 #include "dialogs/scheme/SchemeRecords.h"
 #include "host/IHostData.h"
@@ -10,7 +11,6 @@
 #include <afxstr.h>
 
 #include <algorithm>
-#include <limits>
 
 // The schemes of a configuration that the user editor shows and that a new user scheme can be made from.
 
@@ -18,12 +18,11 @@
 template <class SchemeList, class Visitor>
 void ForEachSchemeOf(SchemeList* pList, int nConfig, int nMaxCount, Visitor visit)
 {
-    const std::uint32_t nHostCount = pList ? pList->GetCount() : 0;
-    const int nCount = static_cast<int>(std::min(nHostCount, static_cast<std::uint32_t>(nMaxCount)));
+    const int nCount = std::min(static_cast<int>(HostCount(pList)), nMaxCount);
     for (int i = 0; i < nCount; ++i)
     {
         auto* pScheme = pList->GetAt(static_cast<std::uint32_t>(i));
-        if (pScheme && pScheme->GetConfigIndex() == static_cast<std::uint8_t>(nConfig))
+        if (pScheme && pScheme->GetConfigIndex() == nConfig)
             visit(*pScheme, i);
     }
 }
@@ -33,8 +32,7 @@ template <class Visitor>
 void ForEachPreset(int nConfig, Visitor visit)
 {
     ForEachSchemeOf(GetHostContext().pData->GetFactorySchemeList(), nConfig, FIRST_USER_SCHEME,
-                    [&](IPrintScheme& scheme, int nIndex)
-                    {
+                    [&](IPrintScheme& scheme, int nIndex) {
                         if (scheme.GetEnabled())
                             visit(scheme, nIndex);
                     });
@@ -43,8 +41,7 @@ void ForEachPreset(int nConfig, Visitor visit)
 template <class Visitor>
 void ForEachUserScheme(int nConfig, Visitor visit)
 {
-    ForEachSchemeOf(GetHostContext().pData->GetUserSchemeList(), nConfig,
-                    std::numeric_limits<int>::max() - FIRST_USER_SCHEME,
+    ForEachSchemeOf(GetHostContext().pData->GetUserSchemeList(), nConfig, MAX_HOST_COUNT,
                     [&](IUserScheme& scheme, int nIndex) { visit(scheme, nIndex + FIRST_USER_SCHEME); });
 }
 

@@ -194,8 +194,9 @@ void MainWindow::Edit(const Editor& editor)
         return;
     m_editing = true;
     const std::wstring languageDir = SelectedLanguageDir();
-    m_start.document->Edit([&](IHostData* data, IHostControl* control)
-                           { (m_start.editors->*editor.run)(data, control, languageDir.c_str()); });
+    m_start.document->Edit([&](IHostData* data, IHostControl* control) {
+        (m_start.editors->*editor.run)(data, control, languageDir.c_str());
+    });
     m_editing = false;
     ShowStatus();
     if (m_start.document->LastSave() == MachineDocument::SaveState::Failed)

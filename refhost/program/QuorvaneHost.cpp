@@ -39,8 +39,9 @@ std::wstring ProgramFolder()
 void ChooseLanguage(Start& start, const std::wstring& wanted)
 {
     start.languages = LanguagesIn(start.languageDir);
-    const auto offered = [&](const std::wstring& tag)
-    { return std::find(start.languages.begin(), start.languages.end(), tag) != start.languages.end(); };
+    const auto offered = [&](const std::wstring& tag) {
+        return std::find(start.languages.begin(), start.languages.end(), tag) != start.languages.end();
+    };
     if (!wanted.empty() && !offered(wanted))
         throw CommandLineError("There is no language \"" + Utf8FromWide(wanted) + "\" in " +
                                Utf8FromWide(start.languageDir) + ".");

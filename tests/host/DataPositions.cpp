@@ -124,9 +124,9 @@ POSITION_TEST(ICustomEclosion, 10)
 POSITION_TEST(IEclosionMode, 4)
 
 #define POSITIONS_OF_IEclosionElement(OP0, OP1, OP2, OP3)                                                              \
-    OP0(4, std::int32_t, GetWidth)                                                                                     \
+    OP0(4, std::uint8_t, GetWidth)                                                                                     \
     OP1(5, void, SetWidth, std::int32_t)                                                                               \
-    OP0(6, std::int32_t, GetHeight)                                                                                    \
+    OP0(6, std::uint8_t, GetHeight)                                                                                    \
     OP1(7, void, SetHeight, std::int32_t)
 
 POSITION_TEST(IEclosionElement, 4)

@@ -40,7 +40,7 @@ POSITION_TEST(IUserSchemeList, 4)
     OP1(16, void, SetCustomRange, std::uint8_t)                                                                        \
     OP1(17, void, SetHeadEclosionType, std::uint8_t)                                                                   \
     OP2(18, void, SetInkMultiple, std::uint16_t, std::uint8_t)                                                         \
-    OP2(19, void, SetInkCut, std::uint8_t, std::uint8_t)                                                               \
+    OP2(19, void, SetInkCut, std::uint16_t, std::uint8_t)                                                              \
     OP1(20, void, SetLampLL, std::uint8_t)                                                                             \
     OP1(21, void, SetLampLR, std::uint8_t)                                                                             \
     OP1(22, void, SetLampRL, std::uint8_t)                                                                             \
@@ -105,7 +105,7 @@ POSITION_TEST(IPrintScheme, 61)
     OP1(16, void, SetCustomRange, std::uint8_t)                                                                        \
     OP1(17, void, SetHeadEclosionType, std::uint8_t)                                                                   \
     OP2(18, void, SetInkMultiple, std::uint16_t, std::uint8_t)                                                         \
-    OP2(19, void, SetInkCut, std::uint8_t, std::uint8_t)                                                               \
+    OP2(19, void, SetInkCut, std::uint16_t, std::uint8_t)                                                              \
     OP1(20, void, SetLampLL, std::uint8_t)                                                                             \
     OP1(21, void, SetLampLR, std::uint8_t)                                                                             \
     OP1(22, void, SetLampRL, std::uint8_t)                                                                             \

@@ -35,14 +35,12 @@ TEST_F(MachineDocumentTest, SavedParametersAreInTheFileAtOnce)
 {
     MachineDocument document(m_path);
     EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::NothingSaved);
-    document.Edit(
-        [&](IHostData* data, IHostControl* control)
-        {
-            SetPasses(data, 16);
-            EXPECT_EQ(PassesInFile(), 4);
-            control->SaveParameters(2);
-            EXPECT_EQ(PassesInFile(), 16);
-        });
+    document.Edit([&](IHostData* data, IHostControl* control) {
+        SetPasses(data, 16);
+        EXPECT_EQ(PassesInFile(), 4);
+        control->SaveParameters(2);
+        EXPECT_EQ(PassesInFile(), 16);
+    });
     EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::Saved);
 }
 
@@ -50,25 +48,21 @@ TEST_F(MachineDocumentTest, CancelledEditIsGoneAtTheNextOne)
 {
     MachineDocument document(m_path);
     document.Edit([](IHostData* data, IHostControl*) { SetPasses(data, 16); });
-    document.Edit(
-        [](IHostData* data, IHostControl* control)
-        {
-            EXPECT_EQ(data->GetConfigList()->GetAt(0)->GetMode(0)->GetPassCount(), 4);
-            control->SaveParameters(3);
-        });
+    document.Edit([](IHostData* data, IHostControl* control) {
+        EXPECT_EQ(data->GetConfigList()->GetAt(0)->GetMode(0)->GetPassCount(), 4);
+        control->SaveParameters(3);
+    });
     EXPECT_EQ(PassesInFile(), 4);
 }
 
 TEST_F(MachineDocumentTest, CustomEclosionsAreSavedAlone)
 {
     MachineDocument document(m_path);
-    document.Edit(
-        [](IHostData* data, IHostControl* control)
-        {
-            SetPasses(data, 16);
-            data->GetCustomEclosionSet()->GetEclosion(0)->SetRange(33);
-            control->SaveCustomEclosionSet();
-        });
+    document.Edit([](IHostData* data, IHostControl* control) {
+        SetPasses(data, 16);
+        data->GetCustomEclosionSet()->GetEclosion(0)->SetRange(33);
+        control->SaveCustomEclosionSet();
+    });
     EXPECT_EQ(PassesInFile(), 4);
     EXPECT_EQ(LoadMachine(m_path).customEclosions.definitions[0].range, 33);
 }
@@ -77,12 +71,10 @@ TEST_F(MachineDocumentTest, FailedSaveKeepsTheChangesForTheNextOne)
 {
     MachineDocument document(m_path);
     SetFileAttributesW(m_path.c_str(), FILE_ATTRIBUTE_READONLY);
-    document.Edit(
-        [](IHostData* data, IHostControl* control)
-        {
-            SetPasses(data, 16);
-            control->SaveParameters(2);
-        });
+    document.Edit([](IHostData* data, IHostControl* control) {
+        SetPasses(data, 16);
+        control->SaveParameters(2);
+    });
     EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::Failed);
     EXPECT_NE(document.SaveError().find("machine.json"), std::string::npos);
     EXPECT_EQ(PassesInFile(), 4);

@@ -125,20 +125,19 @@ TEST_F(SampleMachine, HoldsSchemesThatDoNotFit)
     const auto layouts = IdsOfLayouts(m_machine);
     EXPECT_TRUE(Any(m_machine.factorySchemes,
                     [&](const FactoryScheme& scheme) { return layouts.count(scheme.layoutId) == 0; }));
-    EXPECT_TRUE(Any(m_machine.factorySchemes,
-                    [&](const FactoryScheme& scheme)
-                    {
-                        const auto& modes = m_machine.configurations.at(scheme.configIndex).modes;
-                        return modes.at(scheme.modeIndex).disabled;
-                    }));
+    EXPECT_TRUE(Any(m_machine.factorySchemes, [&](const FactoryScheme& scheme) {
+        const auto& modes = m_machine.configurations.at(scheme.configIndex).modes;
+        return modes.at(scheme.modeIndex).disabled;
+    }));
     EXPECT_TRUE(Any(m_machine.userSchemes,
                     [&](const UserScheme& scheme) { return scheme.baseScheme >= m_machine.factorySchemes.size(); }));
 }
 
 TEST_F(SampleMachine, SomeChannelSetupsDoNotFitTheActiveOne)
 {
-    const auto fits = [&](const ChannelSetup& setup)
-    { return std::count(setup.fits.begin(), setup.fits.end(), m_machine.activeSetup.id) != 0; };
+    const auto fits = [&](const ChannelSetup& setup) {
+        return std::count(setup.fits.begin(), setup.fits.end(), m_machine.activeSetup.id) != 0;
+    };
     EXPECT_TRUE(Any(m_machine.channelSetups, fits));
     EXPECT_TRUE(Any(m_machine.channelSetups, [&](const ChannelSetup& setup) { return !fits(setup); }));
 }

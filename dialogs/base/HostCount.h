@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstdint>
+
+// No machine has that many of anything: a greater count is junk, and the list is taken as empty rather than walked for
+// minutes.
+constexpr int MAX_HOST_COUNT = 1'000'000;
+
+constexpr std::uint32_t SaneCount(std::uint32_t nCount)
+{
+    return nCount <= static_cast<std::uint32_t>(MAX_HOST_COUNT) ? nCount : 0;
+}
+
+// The count of a host's list; a null list is an empty one.
+template <class HostList>
+std::uint32_t HostCount(HostList* pList)
+{
+    return pList ? SaneCount(pList->GetCount()) : 0;
+}
