@@ -52,13 +52,14 @@ void CDlgPrintSchemeUserAddScheme::OnOK()
 // Preset names stand unconverted, those of user schemes are converted.
 void CDlgPrintSchemeUserAddScheme::FillSources()
 {
+    const auto nConfig = static_cast<std::uint8_t>(m_nConfigIndex);
     int nSelect = 0;
     Refill(m_cmbSource, [&] {
         const CString strPreset = GetLanguageText(L"PRESET", L"预设");
-        ForEachPreset(m_nConfigIndex, [&](IPrintScheme& scheme, int nSchemeId) {
+        ForEachPreset(nConfig, [&](IPrintScheme& scheme, int nSchemeId) {
             AddSource(PresetText(scheme.GetName(), strPreset), nSchemeId, nSelect);
         });
-        ForEachUserScheme(m_nConfigIndex, [&](IUserScheme& scheme, int nSchemeId) {
+        ForEachUserScheme(nConfig, [&](IUserScheme& scheme, int nSchemeId) {
             AddSource(HostText(scheme.GetName()), nSchemeId, nSelect);
         });
     });
