@@ -1,0 +1,129 @@
+#!/usr/bin/env bash
+# Sets up what is missing, builds, and runs every test under Wine. See usage.
+. "$(dirname "$0")/tools/common.sh"
+. "$project/tools/screen.sh"
+. "$project/tools/x86-root.sh"
+. "$project/tools/report.sh"
+
+usage() {
+    cat <<'TEXT'
+Usage: ./test.sh [--arch x64|x86] [--filter PATTERN]
+Sets up what is missing, builds, and runs every test on x64 and x86 under Wine.
+  --arch x64|x86     one architecture only
+  --filter PATTERN   only tests whose full name matches (a GoogleTest filter)
+  --help             this text
+Environment: QUORVANE_X86_ROOT names a folder to keep the i386 system in (default: build/x86-root);
+with CI=true a skipped test is a failure.
+TEXT
+}
+
+refuse() {
+    usage >&2
+    exit 2
+}
+
+arches=(x64 x86) filter='*'
+parse_options() {
+    while [ $# -gt 0 ]; do
+        case "$1 ${2:-}" in
+        "--arch x64" | "--arch x86") arches=("$2") && shift ;;
+        "--filter "?*) filter=$2 && shift ;;
+        "--help "*) usage && exit ;;
+        *) refuse ;;
+        esac
+        shift
+    done
+}
+
+tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
+
+install_packages() {
+    local packages=("${x64_packages[@]}" clang-format)
+    ! tests_x86 || packages+=(g++-mingw-w64-i686-posix)
+    ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
+    install_missing "${packages[@]}"
+}
+
+# The i386 system comes over the network while the compilers work.
+build_all() {
+    local arch preparing=
+    if tests_x86; then
+        x86_prepare >"$build/x86-skipped" &
+        preparing=$!
+        # A failing build must not leave it behind.
+        trap 'wait' EXIT
+    fi
+    for arch in "${arches[@]}"; do
+        build_preset "$arch"
+    done
+    x86_usable=true
+    [ -z "$preparing" ] || wait "$preparing" || x86_usable=false
+}
+
+can_run() { [ "$1" != x86 ] || $x86_usable; }
+
+# run_arch ARCH: on a screen of its own.
+run_arch() {
+    rm -rf "$build/$1/results"
+    start_screen
+    trap stop_screen EXIT
+    if [ "$1" = x86 ] && ! system_has_wine32; then
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-suite.sh x86 "$filter"
+    else
+        "$project/tools/run-suite.sh" "$1" "$filter"
+    fi
+}
+
+run_all() {
+    local arch suites=()
+    for arch in "${arches[@]}"; do
+        can_run "$arch" || continue
+        say "Running the tests on $arch"
+        run_arch "$arch" &
+        suites+=($!)
+    done
+    [ ${#suites[@]} -eq 0 ] || wait "${suites[@]}" || true
+}
+
+# skip_x86: what ran on x64 would have run on x86.
+skip_x86() {
+    printf '\nSkipped: the tests on x86, because %s\n' "$(cat "$build/x86-skipped")"
+    skipped=$((skipped + ($1 > 0 ? $1 : 1)))
+}
+
+# count_all: leaves the number of test program cases in executed.
+count_all() {
+    local arch checks
+    count_check "format of the sources" "$project/tools/check-format.sh"
+    count_check "keys of the language files" "$project/tools/check-language-keys.sh"
+    count_check "keys of the language files" "$project/tools/check-language-keys.sh"
+    for arch in "${arches[@]}"; do
+        count_check "image of Quorvane.dll for $arch" "$project/tools/check-image.sh" "$arch"
+    done
+    checks=$((passed + failed))
+    for arch in "${arches[@]}"; do
+        ! can_run "$arch" || count_suite "$arch"
+    done
+    executed=$((passed + failed - checks))
+    $x86_usable || skip_x86 "$executed"
+}
+
+# close_run: the closing line, and the status that it stands for.
+close_run() {
+    local counts="$passed passed, $failed failed" status=0
+    [ "$failed" -eq 0 ] || status=1
+    if [ "$skipped" -gt 0 ]; then
+        counts+=", $skipped skipped"
+        [ "${CI:-}" != true ] || { say "CI=true: a skipped test is a failure" && status=1; }
+    fi
+    [ "$executed" -gt 0 ] || { say "No test was run" && status=1; }
+    say "$counts"
+    exit "$status"
+}
+
+parse_options "$@"
+install_packages
+build_all
+run_all
+count_all
+close_run

@@ -1,0 +1,12 @@
+#!/usr/bin/env bash
+# check-format.sh [--mend]: holds every C++ source against .clang-format.
+. "$(dirname "$0")/common.sh"
+
+cd "$project"
+mapfile -t sources < <(find host mfc dialogs frame refhost tests tools -name '*.cpp' -o -name '*.h' | sort)
+if [ "${1:-}" = --mend ]; then
+    clang-format -i "${sources[@]}"
+elif ! clang-format --dry-run -Werror "${sources[@]}"; then
+    say "Mend it with: tools/check-format.sh --mend"
+    exit 1
+fi

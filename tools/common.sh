@@ -1,0 +1,60 @@
+# shellcheck shell=bash
+# What every script here shares; sourced, never run.
+
+set -euo pipefail
+
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+build=$project/build
+export LANG=C.UTF-8
+
+say() { printf '%s\n' "$*"; }
+
+die() {
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# become_root_possible: true if as_root can work.
+become_root_possible() { [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null; }
+
+is_installed() { dpkg-query --show --showformat '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed; }
+
+# install_missing PACKAGE...: silent when all are there.
+install_missing() {
+    local package missing=()
+    for package; do
+        is_installed "$package" || missing+=("$package")
+    done
+    [ ${#missing[@]} -gt 0 ] || return 0
+    become_root_possible || die "these packages are missing, and neither root nor sudo is to be had: ${missing[*]}"
+    say "Installing: ${missing[*]}"
+    as_root apt-get update -q >"$build/apt.log" 2>&1 || die "apt-get update failed, see $build/apt.log"
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
+        >>"$build/apt.log" 2>&1 || die "apt-get install failed, see $build/apt.log"
+}
+
+# Packages that building, running and looking at the x64 library take.
+x64_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest nlohmann-json3-dev
+    wine wine64 fonts-wine fonts-wqy-microhei libxrender1 libxcursor1 libxi6 libxrandr2 xvfb)
+
+# build_preset PRESET [TARGET...]
+build_preset() {
+    local preset=$1 targets=()
+    shift
+    [ $# -eq 0 ] || targets=(--target "$@")
+    say "Building $preset"
+    (cd "$project" && cmake --preset "$preset" >"$build/$preset-configure.log" 2>&1) ||
+        die "$(cat "$build/$preset-configure.log")"
+    (cd "$project" && cmake --build --preset "$preset" "${targets[@]}" >"$build/$preset-build.log" 2>&1) ||
+        die "$(grep -v '^\[' "$build/$preset-build.log")"
+}
+
+mkdir -p "$build"

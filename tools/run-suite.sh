@@ -1,0 +1,28 @@
+#!/usr/bin/env bash
+# run-suite.sh ARCH FILTER: runs the test programs of a build under Wine, on the current DISPLAY. For each it leaves
+# NAME.log, NAME.xml and NAME.status (its exit status) in build/ARCH/results.
+# Runs on this system and inside the i386 system alike.
+. "$(dirname "$0")/common.sh"
+. "$project/tools/wine.sh"
+
+arch=$1 filter=$2
+results=$build/$arch/results
+# Far beyond what any program takes: only one that hangs gets there.
+limit=900
+
+# run_program NAME
+run_program() {
+    local status=0
+    timeout -k 10 "$limit" wine "$1.exe" --gtest_color=no "--gtest_filter=$filter" \
+        "--gtest_output=xml:../results/$1.xml" >"$results/$1.log" 2>&1 </dev/null || status=$?
+    printf '%s\n' "$status" >"$results/$1.status"
+    say "$arch $1: ended with status $status"
+}
+
+fresh_prefix "$arch" "$arch" wine-tests.reg
+trap end_wine EXIT
+mkdir -p "$results"
+cd "$build/$arch/bin"
+while read -r program; do
+    run_program "$program"
+done <"$build/$arch/tests.list"
