@@ -1,0 +1,100 @@
+#include "dialogs/base/CodePage.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+namespace
+{
+constexpr LCID kEnglish = 0x0409; // code page 1252
+constexpr LCID kChinese = 0x0804; // code page 936
+
+class CodePage : public testing::Test
+{
+protected:
+    ~CodePage() override { SetThreadLocale(m_before); }
+
+    void Use(LCID locale) { ASSERT_TRUE(SetThreadLocale(locale)); }
+
+private:
+    LCID m_before = GetThreadLocale();
+};
+
+TEST_F(CodePage, OfAnEnglishThreadIs1252)
+{
+    Use(kEnglish);
+    EXPECT_EQ(WideText("caf\xE9 \x80"), L"caf\x00E9 \x20AC");
+    EXPECT_EQ(NarrowText(L"caf\x00E9 \x20AC"), "caf\xE9 \x80");
+}
+
+TEST_F(CodePage, OfAChineseThreadIs936)
+{
+    Use(kChinese);
+    EXPECT_EQ(WideText("\xB4\xF2\xD3\xA1 A"), L"\x6253\x5370 A");
+    EXPECT_EQ(NarrowText(L"\x6253\x5370 A"), "\xB4\xF2\xD3\xA1 A");
+}
+
+TEST_F(CodePage, ReplacesWhatItLacks)
+{
+    Use(kEnglish);
+    EXPECT_EQ(NarrowText(L"a\x6253z"), "a?z");
+}
+
+TEST_F(CodePage, TakesBytesThatAreNoText)
+{
+    Use(kChinese);
+    const auto text = WideText("A\xB4");
+    ASSERT_TRUE(text);
+    EXPECT_EQ(text->front(), L'A');
+}
+
+TEST_F(CodePage, TakesEmptyAndLongTexts)
+{
+    Use(kChinese);
+    EXPECT_EQ(WideText(""), L"");
+    EXPECT_EQ(NarrowText(L""), "");
+    EXPECT_EQ(WideText(std::string(10000, 'x').c_str()), std::wstring(10000, L'x'));
+    EXPECT_EQ(NarrowText(std::wstring(10000, L'\x6253').c_str())->size(), 20000u);
+}
+
+TEST_F(CodePage, GivesNothingForNull)
+{
+    wchar_t wide[4] = L"old";
+    char narrow[4] = "old";
+    EXPECT_EQ(ToWide(nullptr, wide, 4), nullptr);
+    EXPECT_EQ(ToWide("a", nullptr, 4), nullptr);
+    EXPECT_EQ(ToNarrow(nullptr, narrow, 4), nullptr);
+    EXPECT_EQ(ToNarrow(L"a", nullptr, 4), nullptr);
+    EXPECT_FALSE(WideText(nullptr));
+    EXPECT_FALSE(NarrowText(nullptr));
+}
+
+TEST_F(CodePage, FillsATargetOfJustTheSize)
+{
+    Use(kChinese);
+    wchar_t wide[3] = L"zz";
+    char narrow[5] = "zzzz";
+    EXPECT_EQ(ToWide("ab", wide, 3), wide);
+    EXPECT_STREQ(wide, L"ab");
+    EXPECT_EQ(ToNarrow(L"\x6253\x5370", narrow, 5), narrow);
+    EXPECT_STREQ(narrow, "\xB4\xF2\xD3\xA1");
+}
+
+TEST_F(CodePage, EmptiesATargetThatIsTooSmall)
+{
+    Use(kChinese);
+    wchar_t wide[3] = L"zz";
+    char narrow[5] = "zzzz";
+    EXPECT_EQ(ToWide("abc", wide, 3), nullptr);
+    EXPECT_STREQ(wide, L"");
+    EXPECT_EQ(ToNarrow(L"\x6253\x5370 ", narrow, 5), nullptr);
+    EXPECT_STREQ(narrow, "");
+    EXPECT_EQ(ToWide("", wide, 0), nullptr);
+    EXPECT_EQ(ToNarrow(L"", narrow, 0), nullptr);
+}
+
+TEST_F(CodePage, RefusesTextsThatNoTargetHolds)
+{
+    EXPECT_TRUE(IsConvertibleLength(0x3FFFFFFF));
+    EXPECT_FALSE(IsConvertibleLength(0x40000000));
+}
+} // namespace

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// A folder of one test's own; it goes with all its files when the test ends.
+class TempFolder
+{
+public:
+    TempFolder();
+    ~TempFolder();
+    TempFolder(const TempFolder&) = delete;
+    TempFolder& operator=(const TempFolder&) = delete;
+
+    // Without a trailing backslash.
+    const std::wstring& Path() const { return m_path; }
+    std::wstring Write(const std::wstring& name, std::string_view bytes) const;
+
+private:
+    std::wstring m_path;
+};
+
+void WriteBytes(const std::wstring& path, std::string_view bytes);
+std::string Utf16(std::wstring_view text, bool withMark = true, bool highByteFirst = false);

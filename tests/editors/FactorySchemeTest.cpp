@@ -1,0 +1,25 @@
+#include "tests/editors/FactorySchemeTest.h"
+
+void FactorySchemeTest::Run(const Script& script)
+{
+    RunOperation(&IQuorvane::EditFactorySchemes, WithEditor(script));
+}
+
+void FactorySchemeTest::RunAgain(const Script& script)
+{
+    RunOperationAgain(&IQuorvane::EditFactorySchemes, WithEditor(script));
+}
+
+StoredScheme FactorySchemeTest::StoredPages(std::size_t index) const
+{
+    return {std::to_string(index), m_machine.factorySchemes.at(index)};
+}
+
+EditorTest::WindowScript FactorySchemeTest::WithEditor(const Script& script)
+{
+    return [&script](Operator& op) {
+        const auto isEditor = [](const Window& dialog) { return dialog.Has(IDC_LIST_SCHEME); };
+        FactoryEditor editor(op, op.ExpectDialogWith("the factory editor", isEditor));
+        script(editor);
+    };
+}

@@ -1,0 +1,474 @@
+// The window map, subclassing and message maps.
+#include "TestWindow.h"
+
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <stdexcept>
+
+namespace
+{
+using namespace test;
+
+enum Id : WORD
+{
+    listId = 101,
+    comboId = 102,
+    editId = 103,
+    buttonId = 104,
+    sliderId = 105,
+    commandId = 201
+};
+
+const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 150,
+                                    {{L"LISTBOX", L"", WS_VISIBLE | LBS_NOTIFY, 5, 5, 50, 50, listId},
+                                     {L"COMBOBOX", L"", WS_VISIBLE | CBS_DROPDOWNLIST, 65, 5, 50, 50, comboId},
+                                     {L"EDIT", L"text", WS_VISIBLE, 5, 65, 50, 12, editId},
+                                     {L"BUTTON", L"", WS_VISIBLE, 65, 65, 50, 14, buttonId},
+                                     {TRACKBAR_CLASS, L"", WS_VISIBLE, 5, 80, 100, 20, sliderId}});
+
+// A window that the framework knows nothing of.
+class PlainWindow
+{
+public:
+    explicit PlainWindow(LPCTSTR className = L"STATIC")
+        : m_handle(::CreateWindowEx(0, className, L"plain", WS_POPUP, 10, 10, 100, 100, nullptr, nullptr,
+                                    AfxGetInstanceHandle(), nullptr))
+    {
+    }
+    ~PlainWindow() { ::DestroyWindow(m_handle); }
+    PlainWindow(const PlainWindow&) = delete;
+    PlainWindow& operator=(const PlainWindow&) = delete;
+
+    operator HWND() const { return m_handle; }
+    LONG_PTR Procedure() const { return ::GetWindowLongPtr(m_handle, GWLP_WNDPROC); }
+
+private:
+    HWND m_handle;
+};
+
+// The window map
+
+TEST(WindowMap, NullHasNoObject)
+{
+    EXPECT_EQ(nullptr, CWnd::FromHandle(nullptr));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(nullptr));
+}
+
+TEST(WindowMap, AttachedWindowGivesItsObject)
+{
+    const PlainWindow window;
+    CWnd wnd;
+    ASSERT_TRUE(wnd.SubclassWindow(window));
+    EXPECT_EQ(&wnd, CWnd::FromHandle(window));
+    EXPECT_EQ(&wnd, CWnd::FromHandlePermanent(window));
+}
+
+TEST(WindowMap, OtherWindowGivesATemporaryObject)
+{
+    const PlainWindow window;
+    CWnd* wnd = CWnd::FromHandle(window);
+    ASSERT_NE(nullptr, wnd);
+    EXPECT_EQ(window, wnd->m_hWnd);
+    EXPECT_EQ(wnd, CWnd::FromHandle(window));
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+}
+
+TEST(WindowMap, AttachedObjectGoesBeforeATemporaryOne)
+{
+    const PlainWindow window;
+    CWnd::FromHandle(window);
+    CWnd wnd;
+    EXPECT_TRUE(wnd.SubclassWindow(window));
+    EXPECT_EQ(&wnd, CWnd::FromHandle(window));
+}
+
+TEST(WindowMap, GivesParentsAndItems)
+{
+    TestDialog dialog;
+    dialog.Create(dialogTemplate);
+    CWnd* item = dialog.GetDlgItem(editId);
+    ASSERT_NE(nullptr, item);
+    EXPECT_EQ(editId, item->GetDlgCtrlID());
+    EXPECT_EQ(&dialog, item->GetParent());
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(199));
+}
+
+// Subclassing
+
+TEST(Subclassing, TakesOneObjectPerWindowAndOneWindowPerObject)
+{
+    const PlainWindow window;
+    const PlainWindow other;
+    CWnd first;
+    CWnd second;
+    ASSERT_TRUE(first.SubclassWindow(window));
+    EXPECT_FALSE(second.SubclassWindow(window));
+    EXPECT_EQ(nullptr, second.m_hWnd);
+    EXPECT_FALSE(first.SubclassWindow(other));
+    EXPECT_EQ(window, first.m_hWnd);
+    EXPECT_FALSE(second.SubclassWindow(nullptr));
+}
+
+TEST(Subclassing, GivesTheProcedureBack)
+{
+    const PlainWindow window;
+    const LONG_PTR before = window.Procedure();
+    CWnd wnd;
+    wnd.SubclassWindow(window);
+    EXPECT_NE(before, window.Procedure());
+    EXPECT_EQ(window, wnd.UnsubclassWindow());
+    EXPECT_EQ(before, window.Procedure());
+    EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    EXPECT_EQ(nullptr, wnd.UnsubclassWindow());
+}
+
+TEST(Subclassing, EndsWithTheObjectAndLeavesTheWindow)
+{
+    const PlainWindow window;
+    const LONG_PTR before = window.Procedure();
+    {
+        CWnd wnd;
+        wnd.SubclassWindow(window);
+    }
+    EXPECT_TRUE(::IsWindow(window));
+    EXPECT_EQ(before, window.Procedure());
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+}
+
+// Says what it was when its window had gone.
+class Mourner : public CWnd
+{
+public:
+    explicit Mourner(int& deaths) : m_deaths(deaths) {}
+    HWND handleAtDeath = reinterpret_cast<HWND>(1);
+
+protected:
+    void PostNcDestroy() override
+    {
+        ++m_deaths;
+        handleAtDeath = m_hWnd;
+    }
+
+private:
+    int& m_deaths;
+};
+
+TEST(Subclassing, EndsWithTheWindow)
+{
+    int deaths = 0;
+    const PlainWindow window;
+    Mourner wnd(deaths);
+    wnd.SubclassWindow(window);
+    EXPECT_TRUE(wnd.DestroyWindow());
+    EXPECT_EQ(1, deaths);
+    EXPECT_EQ(nullptr, wnd.handleAtDeath);
+    EXPECT_EQ(nullptr, wnd.m_hWnd);
+    EXPECT_EQ(nullptr, CWnd::FromHandlePermanent(window));
+    EXPECT_FALSE(wnd.DestroyWindow());
+}
+
+TEST(Subclassing, OfChildrenEndsWithTheParent)
+{
+    int deaths = 0;
+    TestDialog dialog;
+    dialog.Create(dialogTemplate);
+    Mourner child(deaths);
+    child.SubclassWindow(dialog.Item(editId));
+    dialog.DestroyWindow();
+    EXPECT_EQ(1, deaths);
+    EXPECT_EQ(nullptr, child.m_hWnd);
+}
+
+class SelfDeleting : public CWnd
+{
+public:
+    explicit SelfDeleting(bool& deleted) : m_deleted(deleted) {}
+    ~SelfDeleting() override { m_deleted = true; }
+
+protected:
+    void PostNcDestroy() override { delete this; }
+
+private:
+    bool& m_deleted;
+};
+
+TEST(Subclassing, ObjectMayDeleteItselfAfterTheWindow)
+{
+    bool deleted = false;
+    const PlainWindow window;
+    auto wnd = std::make_unique<SelfDeleting>(deleted);
+    wnd->SubclassWindow(window);
+    wnd.release()->DestroyWindow();
+    EXPECT_TRUE(deleted);
+}
+
+TEST(Window, IsCreatedWithItsObject)
+{
+    TestDialog dialog;
+    dialog.Create(dialogTemplate);
+    CWnd wnd;
+    const RECT rect = {10, 20, 110, 70};
+    ASSERT_TRUE(wnd.CreateEx(WS_EX_CLIENTEDGE, L"STATIC", L"made", WS_CHILD | WS_VISIBLE, rect, &dialog, 301));
+    EXPECT_EQ(&wnd, dialog.GetDlgItem(301));
+    EXPECT_EQ(static_cast<DWORD>(WS_VISIBLE), wnd.GetStyle() & WS_VISIBLE);
+    CString text;
+    wnd.GetWindowText(text);
+    EXPECT_STREQ(L"made", text);
+}
+
+TEST(Window, OfAnUnknownClassIsNotCreated)
+{
+    CWnd wnd;
+    EXPECT_FALSE(wnd.CreateEx(0, L"NoSuchWindowClass", L"", WS_POPUP, RECT{}, nullptr, 0));
+    EXPECT_EQ(nullptr, wnd.m_hWnd);
+}
+
+TEST(Window, RectanglesGoFromScreenToClientAndBack)
+{
+    TestDialog dialog;
+    dialog.Create(dialogTemplate);
+    RECT screen;
+    dialog.GetDlgItem(editId)->GetWindowRect(&screen);
+    RECT rect = screen;
+    dialog.ScreenToClient(&rect);
+    EXPECT_LT(rect.left, screen.left);
+    dialog.GetDlgItem(editId)->MoveWindow(rect);
+    dialog.ClientToScreen(&rect);
+    EXPECT_TRUE(::EqualRect(&screen, &rect));
+    dialog.GetDlgItem(editId)->GetWindowRect(&rect);
+    EXPECT_TRUE(::EqualRect(&screen, &rect)) << "moved to where it stood";
+}
+
+// Message maps
+
+const UINT registeredMessage = ::RegisterWindowMessage(L"QuorvaneFrameworkTest");
+
+class BaseDialog : public TestDialog
+{
+public:
+    std::vector<std::string> calls;
+    std::vector<int> sizes;
+    HWND scrollSender = nullptr;
+    int paints = 0;
+    bool reachedDefault = false;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+
+    void OnList() { calls.emplace_back("list selection"); }
+    void OnListDouble() { calls.emplace_back("list double click"); }
+    void OnCombo() { calls.emplace_back("combo selection"); }
+    void OnEditChange() { calls.emplace_back("edit change"); }
+    void OnEditLeft() { calls.emplace_back("edit left"); }
+    void OnButton() { calls.emplace_back("button"); }
+    void OnMenu() { calls.emplace_back("menu"); }
+    void OnShared() { calls.emplace_back("base"); }
+    LRESULT OnPlain(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) + lParam; }
+    LRESULT OnRegistered(WPARAM wParam, LPARAM lParam) { return static_cast<LRESULT>(wParam) * lParam; }
+    LRESULT OnThrow(WPARAM, LPARAM) { throw std::runtime_error("host"); }
+
+    void OnSize(UINT type, int cx, int cy)
+    {
+        sizes = {static_cast<int>(type), cx, cy};
+        TestDialog::OnSize(type, cx, cy);
+    }
+    void OnHScroll(UINT code, UINT position, CScrollBar* sender)
+    {
+        sizes = {static_cast<int>(code), static_cast<int>(position)};
+        scrollSender = sender ? sender->m_hWnd : nullptr;
+        TestDialog::OnHScroll(code, position, sender);
+    }
+    void OnPaint()
+    {
+        ++paints;
+        TestDialog::OnPaint();
+    }
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_HSCROLL || message == WM_APP + 9)
+            reachedDefault = true;
+        return TestDialog::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+BEGIN_MESSAGE_MAP(BaseDialog, TestDialog)
+    ON_LBN_SELCHANGE(listId, &BaseDialog::OnList)
+    ON_LBN_DBLCLK(listId, &BaseDialog::OnListDouble)
+    ON_CBN_SELCHANGE(comboId, &BaseDialog::OnCombo)
+    ON_EN_CHANGE(editId, &BaseDialog::OnEditChange)
+    ON_EN_KILLFOCUS(editId, &BaseDialog::OnEditLeft)
+    ON_BN_CLICKED(buttonId, &BaseDialog::OnButton)
+    ON_COMMAND(commandId, &BaseDialog::OnMenu)
+    ON_MESSAGE(WM_APP, &BaseDialog::OnPlain)
+    ON_MESSAGE(WM_APP + 1, &BaseDialog::OnThrow)
+    ON_COMMAND(commandId + 1, &BaseDialog::OnShared)
+    ON_REGISTERED_MESSAGE(registeredMessage, &BaseDialog::OnRegistered)
+    ON_WM_SIZE()
+    ON_WM_HSCROLL()
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+class DerivedDialog : public BaseDialog
+{
+protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    void OnShared() { calls.emplace_back("derived"); }
+};
+
+BEGIN_MESSAGE_MAP(DerivedDialog, BaseDialog)
+    ON_COMMAND(commandId + 1, &DerivedDialog::OnShared)
+END_MESSAGE_MAP()
+
+class MessageMap : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        dialog.Create(dialogTemplate);
+        PumpMessages();
+        dialog.calls.clear();
+    }
+
+    std::vector<std::string> Notify(Id id, int code)
+    {
+        dialog.calls.clear();
+        dialog.SendMessage(WM_COMMAND, MAKEWPARAM(id, code), reinterpret_cast<LPARAM>(dialog.Item(id)));
+        return dialog.calls;
+    }
+
+    using Calls = std::vector<std::string>;
+    DerivedDialog dialog;
+};
+
+TEST_F(MessageMap, MatchesCodeAndControl)
+{
+    EXPECT_EQ(Calls{"list selection"}, Notify(listId, LBN_SELCHANGE));
+    EXPECT_EQ(Calls{"list double click"}, Notify(listId, LBN_DBLCLK));
+    EXPECT_EQ(Calls{"combo selection"}, Notify(comboId, CBN_SELCHANGE));
+    EXPECT_EQ(Calls{"edit change"}, Notify(editId, EN_CHANGE));
+    EXPECT_EQ(Calls{"edit left"}, Notify(editId, EN_KILLFOCUS));
+    EXPECT_EQ(Calls{"button"}, Notify(buttonId, BN_CLICKED));
+}
+
+TEST_F(MessageMap, IgnoresTheSameCodeOfAnotherControlAndAnotherCodeOfTheSame)
+{
+    EXPECT_EQ(Calls{}, Notify(editId, LBN_SELCHANGE));
+    EXPECT_EQ(Calls{}, Notify(comboId, CBN_DBLCLK));
+    EXPECT_EQ(Calls{}, Notify(buttonId, BN_DOUBLECLICKED));
+    EXPECT_EQ(Calls{}, Notify(editId, EN_SETFOCUS));
+}
+
+TEST_F(MessageMap, CommandsOfMenusAndAcceleratorsHaveTheCodeOfAClick)
+{
+    dialog.SendMessage(WM_COMMAND, commandId);
+    dialog.SendMessage(WM_COMMAND, MAKEWPARAM(commandId, 1));
+    EXPECT_EQ((Calls{"menu", "menu"}), dialog.calls);
+}
+
+TEST_F(MessageMap, DerivedClassGoesBeforeItsBase)
+{
+    dialog.SendMessage(WM_COMMAND, commandId + 1);
+    EXPECT_EQ(Calls{"derived"}, dialog.calls);
+}
+
+TEST_F(MessageMap, BaseClassServesItsOwnObjects)
+{
+    BaseDialog base;
+    base.Create(dialogTemplate);
+    base.calls.clear();
+    base.SendMessage(WM_COMMAND, commandId + 1);
+    EXPECT_EQ(Calls{"base"}, base.calls);
+}
+
+TEST_F(MessageMap, HandlersGetBothParametersAndGiveTheResult)
+{
+    EXPECT_EQ(12, dialog.SendMessage(WM_APP, 7, 5));
+    EXPECT_EQ(35, dialog.SendMessage(registeredMessage, 7, 5));
+}
+
+TEST_F(MessageMap, UnmappedMessagesGoToTheDefault)
+{
+    EXPECT_EQ(0, dialog.SendMessage(WM_APP + 9));
+    EXPECT_TRUE(dialog.reachedDefault);
+}
+
+TEST_F(MessageMap, ExceptionsEndInTheWindowProcedure)
+{
+    EXPECT_EQ(0, dialog.SendMessage(WM_APP + 1));
+    EXPECT_EQ(12, dialog.SendMessage(WM_APP, 7, 5)) << "the window works on";
+}
+
+TEST_F(MessageMap, SizesAreSigned)
+{
+    dialog.SendMessage(WM_SIZE, SIZE_RESTORED, MAKELPARAM(-5, -7));
+    EXPECT_EQ((std::vector<int>{SIZE_RESTORED, -5, -7}), dialog.sizes);
+}
+
+TEST_F(MessageMap, ScrollHandlerGetsCodePositionAndSender)
+{
+    const HWND slider = dialog.Item(sliderId);
+    dialog.SendMessage(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, 40'000), reinterpret_cast<LPARAM>(slider));
+    EXPECT_EQ((std::vector<int>{TB_THUMBTRACK, 40'000}), dialog.sizes);
+    EXPECT_EQ(slider, dialog.scrollSender);
+    EXPECT_TRUE(dialog.reachedDefault);
+}
+
+TEST_F(MessageMap, ScrollBarOfTheWindowHasNoSender)
+{
+    dialog.scrollSender = dialog.m_hWnd;
+    dialog.SendMessage(WM_HSCROLL, MAKEWPARAM(SB_LINEDOWN, 0));
+    EXPECT_EQ(nullptr, dialog.scrollSender);
+}
+
+TEST_F(MessageMap, DefaultOfPaintValidatesTheWindow)
+{
+    dialog.paints = 0;
+    dialog.Invalidate();
+    EXPECT_TRUE(::GetUpdateRect(dialog.m_hWnd, nullptr, FALSE));
+    ::UpdateWindow(dialog.m_hWnd);
+    EXPECT_EQ(1, dialog.paints);
+    EXPECT_FALSE(::GetUpdateRect(dialog.m_hWnd, nullptr, FALSE));
+}
+
+TEST_F(MessageMap, NotificationsOfAPageStayThere)
+{
+    TestDialog page;
+    page.Create(DialogTemplate(WS_CHILD | WS_VISIBLE | DS_CONTROL, 60, 40,
+                               {{L"BUTTON", L"", WS_VISIBLE, 5, 5, 40, 14, buttonId}}),
+                &dialog);
+    ::SendMessage(page.Item(buttonId), BM_CLICK, 0, 0);
+    PumpMessages();
+    EXPECT_EQ(Calls{}, dialog.calls);
+}
+
+// Reflection
+
+class ReflectingEdit : public CEdit
+{
+public:
+    std::vector<UINT> offered;
+    bool takes = false;
+
+protected:
+    BOOL OnChildNotify(UINT message, WPARAM, LPARAM, LRESULT*) override
+    {
+        offered.push_back(message);
+        return takes;
+    }
+};
+
+TEST_F(MessageMap, ControlIsOfferedItsNotificationBeforeTheParent)
+{
+    ReflectingEdit edit;
+    edit.SubclassWindow(dialog.Item(editId));
+    edit.offered.clear();
+    EXPECT_EQ(Calls{"edit change"}, Notify(editId, EN_CHANGE));
+    EXPECT_EQ(std::vector<UINT>{WM_COMMAND}, edit.offered);
+    edit.takes = true;
+    EXPECT_EQ(Calls{}, Notify(editId, EN_CHANGE));
+}
+} // namespace

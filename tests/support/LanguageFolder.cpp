@@ -1,0 +1,6 @@
+#include "tests/support/LanguageFolder.h"
+
+void LanguageFolder::WriteTexts(const std::wstring& lines)
+{
+    WriteBytes(Utf16(L"[DLG_PRINT_MODE]\r\n" + lines));
+}

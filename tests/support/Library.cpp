@@ -1,0 +1,40 @@
+#include "tests/support/Library.h"
+
+#include <stdexcept>
+#include <string>
+
+namespace
+{
+template <class Function>
+Function Export(HMODULE module, const char* name)
+{
+    const auto address = reinterpret_cast<void*>(GetProcAddress(module, name));
+    if (!address)
+        throw std::runtime_error(std::string("Quorvane.dll does not export ") + name);
+    return reinterpret_cast<Function>(address);
+}
+
+HMODULE Load()
+{
+    wchar_t program[MAX_PATH + 1]{};
+    GetModuleFileNameW(nullptr, program, MAX_PATH);
+    const std::wstring path(program);
+    const HMODULE module = LoadLibraryW((path.substr(0, path.rfind(L'\\') + 1) + L"Quorvane.dll").c_str());
+    if (!module)
+        throw std::runtime_error("Quorvane.dll cannot be loaded from the program's folder");
+    return module;
+}
+} // namespace
+
+Library& Library::Loaded()
+{
+    static Library library;
+    return library;
+}
+
+Library::Library()
+{
+    const HMODULE module = Load();
+    m_new = Export<NewInterfaceFunction>(module, "NewInterface");
+    m_release = Export<ReleaseInterfaceFunction>(module, "ReleaseInterface");
+}

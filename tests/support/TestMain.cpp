@@ -1,0 +1,10 @@
+#include <cstdio>
+#include <gtest/gtest.h>
+
+int main(int argc, char** argv)
+{
+    // A test that ends the whole program must not take the names of those before it along.
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    testing::InitGoogleTest(&argc, argv);
+    return RUN_ALL_TESTS();
+}
