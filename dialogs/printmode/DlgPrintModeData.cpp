@@ -10,6 +10,7 @@
 #include "host/IPrintMode.h"
 #include "resources/resource.h"
 
+#include <algorithm>
 #include <memory>
 
 namespace
@@ -20,12 +21,13 @@ constexpr std::uint8_t NO_DATA_MODE_VALUE = 255;
 // The first data mode is never offered: "No" stands in its place, and a stored 0 means it too.
 constexpr std::uint8_t FIRST_DATA_MODE_VALUE = 0;
 
-// The value that the host stores for a row's text; negative when no data mode has that name.
+// The value that the host stores for a row's text; negative when no data mode has that name that a byte can name, 255
+// being taken for none.
 int DataModeOf(IHeadLayout& layout, const CString& strText)
 {
     if (strText.CompareNoCase(NO_DATA_MODE) == 0)
         return NO_DATA_MODE_VALUE;
-    const std::uint32_t nCount = SaneCount(layout.GetDataModeCount());
+    const std::uint32_t nCount = std::min<std::uint32_t>(layout.GetDataModeCount(), NO_DATA_MODE_VALUE);
     for (std::uint32_t i = 0; i < nCount; ++i)
     {
         IDataMode* pDataMode = layout.GetDataMode(i);
@@ -120,7 +122,7 @@ void CDlgPrintModeData::SetOptions(CMFCPropertyGridProperty& property, IHeadLayo
             continue;
         const CString strName = HostTextForFormat(pDataMode->GetName());
         property.AddOption(strName);
-        if (k == nStored)
+        if (k == nStored && nStored != NO_DATA_MODE_VALUE)
             property.SetValue(strName);
     }
 }

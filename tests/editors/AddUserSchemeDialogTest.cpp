@@ -324,15 +324,4 @@ TEST_F(NewUserScheme, WithoutALanguageFileHasTheDefaultTexts)
         editor.Confirm(dialog, IDCANCEL);
     });
 }
-
-TEST(UserSchemeTemplates, OfTheDialogForANewSchemeIsAsItsHostsKnowIt)
-{
-    ExpectTemplate(IDD_USER_ADD_SCHEME, L"新建方案-用户", {286, 98},
-                   {{IDOK, 124, 77, 61, 14, L"确定"},
-                    {IDCANCEL, 200, 77, 61, 14, L"取消"},
-                    {IDC_STATIC_SCHEME_NAME, 19, 23, 69, 8, L"方案名称:"},
-                    {IDC_STATIC_SOURCE, 19, 45, 69, 8, L"方案来源:"},
-                    {IDC_EDIT_NAME, 91, 20, 169, 14, L""},
-                    {IDC_CMB_SOURCE, 91, 43, 169, 135, L""}});
-}
 } // namespace

@@ -325,8 +325,10 @@ TEST_F(BadInput, TenThousandDataModesAreOffered)
         names.push_back("Mode " + Number(i));
     m_machine.headLayouts = {{"Left", 10, 0, names}};
     Look([](PrintModeEditor& editor) {
-        EXPECT_EQ(editor.Grid().Options(0).size(), kMany); // "No" in place of the first
-        editor.Grid().Choose(0, L"Mode 254");
+        const ListBox list = editor.Grid().OpenRow(0);
+        EXPECT_EQ(list.RowCount(), static_cast<int>(kMany)); // "No" in place of the first
+        EXPECT_EQ(list.Row(254), L"Mode 254");
+        list.ClickRow(254);
     });
     EXPECT_EQ(Changes(), Calls{"IPrintMode[0.0].SetHeadDataMode(254, 0)"});
 }
@@ -385,4 +387,33 @@ TEST_F(BadInput, WalkingThroughTheSampleMachineChangesOnlyWhatThePagesCannotShow
             TakeAsShown(mode);
     EXPECT_TRUE(refhost::FormatMachine(Machine()) == refhost::FormatMachine(m_machine));
 }
+
+TEST_F(BadInput, DeletingANullConfigurationDoesNothing)
+{
+    m_faults.failing = {"IConfigList.GetAt(1)"};
+    Look([this](PrintModeEditor& editor) {
+        editor.Configs().ClickRow(1);
+        NewChanges();
+        PressIfEnabled(editor, IDC_BTN_DEL_CFG);
+        EXPECT_EQ(NewChanges(), Calls());
+        EXPECT_EQ(editor.Configs().RowCount(), 3);
+    });
+}
+
+// The host dispatches messages while it saves: a second OK, and another selection, arrive meanwhile.
+TEST_F(BadInput, NothingIsHandledWhileTheHostSaves)
+{
+    Run([this](PrintModeEditor& editor) {
+        const HWND dialog = editor.Dialog().Handle();
+        const HWND modes = editor.Modes().Handle();
+        Host().OnSave([=](refhost::SaveRequest) {
+            SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+            SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDC_LIST_MODE, LBN_SELCHANGE), reinterpret_cast<LPARAM>(modes));
+        });
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(ChangesWith("SaveParameters"), Calls{"IHostControl.SaveParameters(2)"});
+    EXPECT_EQ(Changes().back(), "IHostControl.SaveParameters(2)");
+}
+
 } // namespace

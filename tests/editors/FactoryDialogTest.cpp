@@ -263,6 +263,23 @@ TEST_F(FactoryDialog, SchemeOfNoConfigurationIsNeverListed)
     });
 }
 
+// Schemes hold their configuration's index in a byte.
+TEST_F(FactoryDialog, ConfigurationsThatNoSchemeCanNameHaveNone)
+{
+    m_machine.configurations.resize(300, Config("Many"));
+    Run([this](FactoryEditor& editor) {
+        editor.Configs().ClickRow(257);
+        EXPECT_EQ(editor.Schemes().RowCount(), 0);
+        NewChanges();
+        editor.Press(IDC_BTN_ADD_SCHEME);
+        EXPECT_EQ(NewChanges().back(), "IPrintScheme[4].SetConfigIndex(1)");
+        EXPECT_EQ(editor.Schemes().Rows(), Texts{L"M-5"});
+        editor.Configs().ClickRow(1);
+        EXPECT_EQ(editor.Schemes().Rows(), (Texts{L"Photo", L"M-5"}));
+        editor.Cancel();
+    });
+}
+
 TEST_F(FactoryDialog, NullSchemeIsLeftOut)
 {
     m_faults.failing = {"ISchemeList[factory].GetAt(1)"};

@@ -1,5 +1,11 @@
 #include "tests/editors/FactoryEditor.h"
 
+namespace
+{
+// A dialog that has closed just before may end a menu by its last change of the focus.
+constexpr int kMenuAttempts = 3;
+} // namespace
+
 FactoryEditor::FactoryEditor(Operator& op, const Window& dialog)
     : SchemeEditor(op, dialog,
                    {SchemePage::Common, SchemePage::Mode, SchemePage::Eclosion, SchemePage::InkMultiple,
@@ -26,8 +32,10 @@ PopupMenu FactoryEditor::OpenedMenu() const
 
 Window FactoryEditor::OpenCopyDialog(int row) const
 {
-    OpenMenuOn(row).Choose(0);
-    return ExpectCopyDialog();
+    for (int i = 0; i < kMenuAttempts; ++i)
+        if (OpenMenuOn(row).Choose(0))
+            return ExpectCopyDialog();
+    throw OperatorFailure("the menu does not stay open");
 }
 
 Window FactoryEditor::ExpectCopyDialog() const

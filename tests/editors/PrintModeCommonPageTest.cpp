@@ -67,13 +67,11 @@ TEST_F(PrintModeCommonPage, ShowsOnePassAfterAModeWhoseCountIsOffered)
 {
     FirstMode().passCount = 12;
     m_machine.configurations[0].modes[1].passCount = 5;
-    Run(
-        [](PrintModeEditor& editor)
-        {
-            editor.Modes().ClickRow(1);
-            EXPECT_EQ(editor.Combo(IDC_CMB_PASS).SelectedText(), L"1");
-            editor.Cancel();
-        });
+    Run([](PrintModeEditor& editor) {
+        editor.Modes().ClickRow(1);
+        EXPECT_EQ(editor.Combo(IDC_CMB_PASS).SelectedText(), L"1");
+        editor.Cancel();
+    });
 }
 
 TEST_F(PrintModeCommonPage, StoresTheNumberOfTheSelectedPassCount)

@@ -191,4 +191,20 @@ TEST_F(PrintModeDataPage, RowsBeyondThePageAreReached)
         editor.Cancel();
     });
 }
+
+TEST_F(PrintModeDataPage, DataModesThatNoByteCanNameAreNotStored)
+{
+    m_machine.headLayouts[0].dataModes.resize(300, "Spare");
+    m_machine.headLayouts[0].dataModes[255] = "Mode 255";
+    m_machine.headLayouts[0].dataModes[299] = "Mode 299";
+    StoredDataModes({255, 255});
+    Run([this](PrintModeEditor& editor) {
+        EXPECT_EQ(editor.Grid().Values()[0], L"No");
+        editor.Grid().Choose(0, L"Mode 299");
+        editor.Grid().Choose(0, L"Mode 255");
+        EXPECT_EQ(Changes(), Calls());
+        editor.Cancel();
+    });
+}
+
 } // namespace

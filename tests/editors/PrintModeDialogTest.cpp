@@ -1,4 +1,5 @@
 #include "tests/editors/PrintModeTest.h"
+#include "tests/editors/RefusingList.h"
 
 namespace
 {
@@ -292,6 +293,19 @@ TEST_F(PrintModeDialog, NothingIsAddedWhenTheHostCreatesNoConfiguration)
     EXPECT_EQ(Changes(), Calls{"IHostData.CreateConfig()"});
 }
 
+TEST_F(PrintModeDialog, ConfigurationWhoseLineIsRefusedStaysTheHostsAndUnselected)
+{
+    Run([](PrintModeEditor& editor) {
+        const RefusingList refusing(editor, editor.Configs());
+        editor.Confirm(editor.OpenAddConfig());
+        EXPECT_EQ(editor.Configs().RowCount(), 3);
+        EXPECT_EQ(editor.Configs().Selected(), 0);
+        editor.Cancel();
+    });
+    EXPECT_EQ(ConfigNames().size(), 4u);
+    EXPECT_EQ(Changes().back(), "IHostData.DestroyConfig(new.0)");
+}
+
 TEST_F(PrintModeDialog, RenamingTellsTheHostTheNameAndNothingElse)
 {
     Run([this](PrintModeEditor& editor) {
@@ -426,16 +440,14 @@ TEST_F(PrintModeDialog, DeletingAnotherConfigurationThanTheShownModesKeepsThePag
 TEST_F(PrintModeDialog, DeletingAConfigurationDropsWhatWasTypedForAnotherOnesMode)
 {
     m_machine.configurations = {Config("Fast", {"Fast-1"}), Config("Empty")};
-    Run(
-        [this](PrintModeEditor& editor)
-        {
-            editor.Configs().ClickRow(1);
-            editor.Edit(IDC_EDIT_NAME).Type(L"Pending");
-            editor.Press(IDC_BTN_DEL_CFG);
-            EXPECT_EQ(editor.Configs().Selected(), 0);
-            EXPECT_EQ(editor.Edit(IDC_EDIT_NAME).Text(), L"Fast-1");
-            editor.Cancel();
-        });
+    Run([this](PrintModeEditor& editor) {
+        editor.Configs().ClickRow(1);
+        editor.Edit(IDC_EDIT_NAME).Type(L"Pending");
+        editor.Press(IDC_BTN_DEL_CFG);
+        EXPECT_EQ(editor.Configs().Selected(), 0);
+        EXPECT_EQ(editor.Edit(IDC_EDIT_NAME).Text(), L"Fast-1");
+        editor.Cancel();
+    });
     EXPECT_EQ(Changes(), Calls{"IConfigList.RemoveAt(1)"});
 }
 
@@ -496,6 +508,18 @@ TEST_F(PrintModeDialog, NothingIsShownWhenTheHostAddsNoMode)
         editor.Cancel();
     });
     EXPECT_EQ(Changes(), Calls{"IPrintConfig[0].AddMode()"});
+}
+
+TEST_F(PrintModeDialog, ModeWhoseLineIsRefusedIsTakenBack)
+{
+    Run([this](PrintModeEditor& editor) {
+        const RefusingList refusing(editor, editor.Modes());
+        editor.Press(IDC_BTN_ADD_MODE);
+        EXPECT_EQ(editor.Modes().Selected(), 0);
+        editor.Cancel();
+    });
+    EXPECT_EQ(Changes(), (Calls{"IPrintConfig[0].AddMode()", "IPrintMode[0.2].SetName(\"Fast-3\")",
+                                "IPrintConfig[0].RemoveMode(2)"}));
 }
 
 TEST_F(PrintModeDialog, DeletingAModeSelectsTheNextWithoutStoring)

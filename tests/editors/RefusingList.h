@@ -25,7 +25,9 @@ private:
     }
     static LRESULT CALLBACK Refuse(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
     {
-        return message == LB_ADDSTRING ? LB_ERRSPACE : CallWindowProcW(s_procedure, window, message, wParam, lParam);
+        if (message == LB_ADDSTRING || message == LB_INSERTSTRING)
+            return LB_ERRSPACE;
+        return CallWindowProcW(s_procedure, window, message, wParam, lParam);
     }
 
     static inline WNDPROC s_procedure = nullptr;

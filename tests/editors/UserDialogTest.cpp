@@ -751,19 +751,4 @@ TEST_F(UserSchemeDialog, OpensAgainOnWhatWasSaved)
         editor.Cancel();
     });
 }
-
-TEST(UserSchemeTemplates, OfTheEditorIsAsItsHostsKnowIt)
-{
-    ExpectTemplate(IDD_SCHEME_USER, L"打印方案(用户模式)", {444, 250},
-                   {{IDOK, 332, 229, 50, 14, L"应用并退出"},
-                    {IDCANCEL, 387, 229, 50, 14, L"取消"},
-                    {IDC_STATIC_CFG, 7, 5, 66, 14, L"打印配置:"},
-                    {IDC_LIST_CFG, 7, 20, 86, 203, L""},
-                    {IDC_STATIC_MODE, 103, 5, 64, 14, L"打印方案:"},
-                    {IDC_LIST_SCHEME, 102, 20, 125, 203, L""},
-                    {IDC_BTN_ADD_SCHEME, 196, 5, 15, 14, L"+"},
-                    {IDC_BTN_DEL_SCHEME, 212, 5, 15, 14, L"X"},
-                    {IDC_TAB, 235, 7, 202, 217, L""},
-                    {IDC_BTN_APPLY, 272, 229, 50, 14, L"应用"}});
-}
 } // namespace

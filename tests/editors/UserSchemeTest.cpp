@@ -1,7 +1,6 @@
 #include "tests/editors/UserSchemeTest.h"
 
 #include "refhost/NarrowText.h"
-#include "tests/editors/DialogTemplate.h"
 
 #include <cstring>
 
@@ -10,24 +9,6 @@ std::wstring Unconverted(const std::string& name)
     std::wstring text((name.size() + 1) / 2, L'\0');
     std::memcpy(text.data(), name.data(), name.size());
     return text;
-}
-
-void ExpectTemplate(int dialogId, const wchar_t* caption, SIZE size, const std::vector<PlacedControl>& controls)
-{
-    const DialogTemplate dialog = FindDialogTemplate(dialogId);
-    EXPECT_EQ(dialog.caption, caption);
-    EXPECT_EQ(dialog.size.cx, size.cx);
-    EXPECT_EQ(dialog.size.cy, size.cy);
-    EXPECT_EQ(dialog.fontName, L"MS Shell Dlg");
-    EXPECT_EQ(dialog.controls.size(), controls.size());
-    for (const PlacedControl& control : controls)
-    {
-        const TemplateControl* found = dialog.Find(control.id);
-        ASSERT_NE(found, nullptr) << control.id;
-        const RECT area = {control.left, control.top, control.left + control.width, control.top + control.height};
-        EXPECT_TRUE(EqualRect(&found->area, &area)) << control.id;
-        EXPECT_EQ(found->text, control.text) << control.id;
-    }
 }
 
 StoredUserScheme::StoredUserScheme(int place, const refhost::UserScheme& values, const refhost::FactoryScheme& base)

@@ -24,20 +24,6 @@ const std::vector<SchemePage> kAllUserPages = {SchemePage::Common, SchemePage::E
 // How a host's name looks where it stands unconverted: two bytes a character.
 std::wstring Unconverted(const std::string& name);
 
-// A control of a template, placed in dialog units.
-struct PlacedControl
-{
-    int id;
-    int left;
-    int top;
-    int width;
-    int height;
-    const wchar_t* text;
-};
-
-// The template has this caption and size and these controls and no others.
-void ExpectTemplate(int dialogId, const wchar_t* caption, SIZE size, const std::vector<PlacedControl>& controls);
-
 // What the host is told when the user editor stores its pages for a user scheme and the factory scheme it was made
 // from: each page's calls, and all in tab order. The places are those of the call log.
 class StoredUserScheme : public StoredValues

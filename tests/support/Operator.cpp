@@ -94,12 +94,21 @@ void Operator::MoveMouse(POINT screen)
 void Operator::PressAndRelease(const Window& window, POINT at, UINT press)
 {
     RequireReachable(window);
+    MoveMouse(window, at);
     Post(window, press, MK_LBUTTON, PointParam(at));
     Settle();
     // Where the press opened a dialog, the button is released over that one.
     if (IsWindowEnabled(GetAncestor(window.Handle(), GA_ROOT)))
         Post(window, WM_LBUTTONUP, 0, PointParam(at));
     Settle();
+}
+
+// The system tells a window of the mouse whenever another one goes from over it. Left where an earlier click was, the
+// mouse would drag a list's selection there while the button is down.
+void Operator::MoveMouse(const Window& window, POINT at)
+{
+    ClientToScreen(window.Handle(), &at);
+    SetCursorPos(at.x, at.y);
 }
 
 void Operator::Key(int virtualKey, KeyModifiers modifiers)

@@ -27,26 +27,37 @@ Texts PopupMenu::Items() const
 
 // By the keyboard; the mouse is moved there first, because wherever else it came to rest, its last move would take the
 // mark away.
-void PopupMenu::Choose(int item) const
+bool PopupMenu::Choose(int item) const
 {
     const HMENU menu = Menu();
+    const auto position = static_cast<UINT>(item);
     RECT area{};
-    GetMenuItemRect(nullptr, menu, static_cast<UINT>(item), &area);
+    GetMenuItemRect(nullptr, menu, position, &area);
     Op().MoveMouse({(area.left + area.right) / 2, (area.top + area.bottom) / 2});
-    const auto isMarked = [&] { return (GetMenuState(menu, static_cast<UINT>(item), MF_BYPOSITION) & MF_HILITE) != 0; };
-    Op().WaitFor("the menu's item to be marked", [&] {
-        if (!isMarked())
-            Op().Key(VK_DOWN);
-        return isMarked();
-    });
-    Op().Key(VK_RETURN);
+    const auto isMarked = [=] { return (GetMenuState(menu, position, MF_BYPOSITION) & MF_HILITE) != 0; };
+    Op().WaitFor("the menu's item to be marked", [&] { return isMarked() || !Press(VK_DOWN); });
+    const bool chosen = Press(VK_RETURN);
     AwaitEnd();
+    return chosen;
 }
 
 void PopupMenu::Dismiss() const
 {
-    Op().Key(VK_ESCAPE);
+    Press(VK_ESCAPE);
     AwaitEnd();
+}
+
+// On the menu's own thread, so that a key never reaches the dialog behind a menu that has just gone.
+bool PopupMenu::Press(int virtualKey) const
+{
+    bool isOpen = false;
+    Op().OnUi([&] {
+        isOpen = IsVisible();
+        if (isOpen)
+            PostMessageW(GetFocus(), WM_KEYDOWN, static_cast<WPARAM>(virtualKey), 1);
+    });
+    Op().Settle();
+    return isOpen;
 }
 
 void PopupMenu::AwaitEnd() const

@@ -9,10 +9,12 @@ public:
     using Window::Window;
 
     Texts Items() const;
-    void Choose(int item) const;
+    // False when the menu closed by itself before: the system ends a menu when the focus changes late.
+    bool Choose(int item) const;
     void Dismiss() const;
 
 private:
     HMENU Menu() const;
+    bool Press(int virtualKey) const;
     void AwaitEnd() const;
 };
