@@ -193,9 +193,13 @@ TEST(DialogTemplates, KeepTheirControlsInside)
         }
 }
 
-TEST(DialogTemplates, OfThePrintModeEditorLetNoControlCoverAnother)
+// Lines and frames of the custom eclosion dialog meet on purpose.
+TEST(DialogTemplates, LetNoControlCoverAnother)
 {
-    for (int id : {IDD_PRINT_MODE, IDD_PRINT_MODE_CMMN, IDD_PRINT_MODE_ADD_CFG, IDD_PRINT_MODE_ADD_MODE})
+    for (int id :
+         {IDD_PRINT_MODE, IDD_PRINT_MODE_CMMN, IDD_PRINT_MODE_ADD_CFG, IDD_PRINT_MODE_ADD_MODE, IDD_SCHEME_FACTORY,
+          IDD_SCHEME_USER, IDD_SCHEME_CMMN, IDD_SCHEME_MODE, IDD_SCHEME_ELC, IDD_SCHEME_INK_MUL, IDD_SCHEME_INK_CUT,
+          IDD_SCHEME_UV, IDD_SCHEME_SAPP, IDD_SCHEME_COPY, IDD_USER_ADD_SCHEME})
     {
         const DialogTemplate dialog = FindDialogTemplate(id);
         for (auto one = dialog.controls.begin(); one != dialog.controls.end(); ++one)

@@ -77,9 +77,7 @@ void Operator::DoubleClick(const Window& window, POINT at)
 void Operator::RightClick(const Window& window, POINT at)
 {
     RequireReachable(window);
-    POINT cursor = at;
-    ClientToScreen(window.Handle(), &cursor);
-    MoveMouse(cursor);
+    MoveMouse(window, at);
     Post(window, WM_RBUTTONDOWN, MK_RBUTTON, PointParam(at));
     Post(window, WM_RBUTTONUP, 0, PointParam(at));
     Settle();
@@ -108,7 +106,8 @@ void Operator::PressAndRelease(const Window& window, POINT at, UINT press)
 void Operator::MoveMouse(const Window& window, POINT at)
 {
     ClientToScreen(window.Handle(), &at);
-    SetCursorPos(at.x, at.y);
+    MoveMouse(at);
+    Settle();
 }
 
 void Operator::Key(int virtualKey, KeyModifiers modifiers)

@@ -65,7 +65,7 @@ public:
 
 private:
     void RequireReachable(const Window& window) const;
-    static void MoveMouse(const Window& window, POINT at);
+    void MoveMouse(const Window& window, POINT at);
     void PressAndRelease(const Window& window, POINT at, UINT press);
     void Post(const Window& window, UINT message, WPARAM wParam, LPARAM lParam);
     void SetModifiers(KeyModifiers modifiers);
