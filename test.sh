@@ -7,10 +7,12 @@
 
 usage() {
     cat <<'TEXT'
-Usage: ./test.sh [--arch x64|x86] [--filter PATTERN]
+Usage: ./test.sh [--arch x64|x86] [--filter PATTERN] [--seed N] [--long]
 Sets up what is missing, builds, and runs every test on x64 and x86 under Wine.
   --arch x64|x86     one architecture only
   --filter PATTERN   only tests whose full name matches (a GoogleTest filter)
+  --seed N           seeded tests start from this seed (usually from 1; in a long run from one that is printed)
+  --long             seeded tests repeat themselves for hours
   --help             this text
 Environment: QUORVANE_X86_ROOT names a folder to keep the i386 system in (default: build/x86-root);
 with CI=true a skipped test is a failure.
@@ -22,17 +24,21 @@ refuse() {
     exit 2
 }
 
-arches=(x64 x86) filter='*'
+arches=(x64 x86) filter='*' seed= long=
 parse_options() {
     while [ $# -gt 0 ]; do
         case "$1 ${2:-}" in
         "--arch x64" | "--arch x86") arches=("$2") && shift ;;
         "--filter "?*) filter=$2 && shift ;;
+        "--seed "[0-9]*) seed=$2 && shift ;;
+        "--long "*) long=true ;;
         "--help "*) usage && exit ;;
         *) refuse ;;
         esac
         shift
     done
+    [ -z "$long" ] || seed=${seed:-$((RANDOM * 32768 + RANDOM))}
+    [ -z "$seed" ] || say "Seed: $seed"
 }
 
 tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
@@ -68,9 +74,9 @@ run_arch() {
     start_screen
     trap stop_screen EXIT
     if [ "$1" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-suite.sh x86 "$filter"
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-suite.sh x86 "$filter" "$seed" "$long"
     else
-        "$project/tools/run-suite.sh" "$1" "$filter"
+        "$project/tools/run-suite.sh" "$1" "$filter" "$seed" "$long"
     fi
 }
 
@@ -95,7 +101,6 @@ skip_x86() {
 count_all() {
     local arch checks
     count_check "format of the sources" "$project/tools/check-format.sh"
-    count_check "keys of the language files" "$project/tools/check-language-keys.sh"
     count_check "keys of the language files" "$project/tools/check-language-keys.sh"
     for arch in "${arches[@]}"; do
         count_check "image of Quorvane.dll for $arch" "$project/tools/check-image.sh" "$arch"

@@ -1,14 +1,16 @@
 #!/usr/bin/env bash
-# run-suite.sh ARCH FILTER: runs the test programs of a build under Wine, on the current DISPLAY. For each it leaves
-# NAME.log, NAME.xml and NAME.status (its exit status) in build/ARCH/results.
+# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY; SEED and LONG
+# may be empty. For each it leaves NAME.log, NAME.xml and NAME.status (its exit status) in build/ARCH/results.
 # Runs on this system and inside the i386 system alike.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/wine.sh"
 
-arch=$1 filter=$2
+arch=$1 filter=$2 seed=$3 long=$4
 results=$build/$arch/results
 # Far beyond what any program takes: only one that hangs gets there.
 limit=900
+[ -z "$seed" ] || export QUORVANE_SEED=$seed
+[ -z "$long" ] || { export QUORVANE_LONG=$long && limit=86400; }
 
 # run_program NAME
 run_program() {
