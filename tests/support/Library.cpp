@@ -33,8 +33,7 @@ Library& Library::Loaded()
 }
 
 Library::Library()
+    : m_module(Load()), m_new(Export<NewInterfaceFunction>(m_module, "NewInterface")),
+      m_release(Export<ReleaseInterfaceFunction>(m_module, "ReleaseInterface"))
 {
-    const HMODULE module = Load();
-    m_new = Export<NewInterfaceFunction>(module, "NewInterface");
-    m_release = Export<ReleaseInterfaceFunction>(module, "ReleaseInterface");
 }

@@ -23,8 +23,10 @@ public:
 
     Interface NewInterface() const { return Interface(m_new(), Release{m_release}); }
     ReleaseInterfaceFunction ReleaseFunction() const { return m_release; }
+    HMODULE Module() const { return m_module; }
 
 private:
+    HMODULE m_module;
     NewInterfaceFunction m_new;
     ReleaseInterfaceFunction m_release;
 };
