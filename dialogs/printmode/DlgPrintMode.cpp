@@ -1,7 +1,6 @@
 #include "dialogs/printmode/DlgPrintMode.h"
 
 #include "dialogs/base/DlgPrintModeAddCfg.h"
-#include "dialogs/base/EditorTab.h"
 #include "dialogs/base/HostContext.h"
 #include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
@@ -9,7 +8,6 @@
 #include "dialogs/base/Rows.h"
 #include "dialogs/printmode/PrintModeRules.h"
 #include "host/IConfigList.h"
-#include "host/IHostControl.h"
 #include "host/IHostData.h"
 #include "host/IPrintConfig.h"
 #include "host/IPrintMode.h"
@@ -48,25 +46,21 @@ IConfigList* ConfigList()
 }
 } // namespace
 
-CDlgPrintMode::CDlgPrintMode() : CDialogEx(IDD_PRINT_MODE) {}
+CDlgPrintMode::CDlgPrintMode() : CDlgEditor(IDD_PRINT_MODE, L"DLG_PRINT_MODE", SAVE_FACTORY_DATA) {}
 
 void CDlgPrintMode::DoDataExchange(CDataExchange* pDX)
 {
-    CDialogEx::DoDataExchange(pDX);
+    CDlgEditor::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_BTN_ADD_CFG, m_btnAddConfig);
     DDX_Control(pDX, IDC_BTN_DEL_CFG, m_btnDeleteConfig);
     DDX_Control(pDX, IDC_BTN_ADD_MODE, m_btnAddMode);
     DDX_Control(pDX, IDC_BTN_DEL_MODE, m_btnDeleteMode);
     DDX_Control(pDX, IDC_BTN_MODE_UP, m_btnMoveUp);
     DDX_Control(pDX, IDC_BTN_MODE_DOWN, m_btnMoveDown);
-    DDX_Control(pDX, IDCANCEL, m_btnCancel);
-    DDX_Control(pDX, IDOK, m_btnOk);
-    DDX_Control(pDX, IDC_BTN_APPLY, m_btnApply);
-    DDX_Control(pDX, IDC_LIST_CFG, m_lstConfigs);
     DDX_Control(pDX, IDC_LIST_MODE, m_lstModes);
 }
 
-BEGIN_MESSAGE_MAP(CDlgPrintMode, CDialogEx)
+BEGIN_MESSAGE_MAP(CDlgPrintMode, CDlgEditor)
     ON_BN_CLICKED(IDC_BTN_ADD_CFG, &CDlgPrintMode::OnAddConfig)
     ON_BN_CLICKED(IDC_BTN_DEL_CFG, &CDlgPrintMode::OnDeleteConfig)
     ON_BN_CLICKED(IDC_BTN_ADD_MODE, &CDlgPrintMode::OnAddMode)
@@ -81,56 +75,31 @@ END_MESSAGE_MAP()
 
 BOOL CDlgPrintMode::OnInitDialog()
 {
-    if (!CDialogEx::OnInitDialog())
+    if (!CDlgEditor::OnInitDialog())
         return FALSE;
-    InitLanguage(L"DLG_PRINT_MODE", this);
-    CreatePages();
     m_btnMoveUp.SetWindowText(L"↑");
     m_btnMoveDown.SetWindowText(L"↓");
-    if (GetHostContext().pData)
-        FillConfigList(0);
     UpdateButtons();
-    m_btnApply.ShowWindow(SW_HIDE);
     return TRUE;
 }
 
-int CDlgPrintMode::ApplyLanguage()
+void CDlgPrintMode::AddPages()
 {
-    static constexpr ControlText TEXTS[] = {
-        {IDOK, L"SAVE_QUIT", L"Save&Quit"},
-        {IDCANCEL, L"IDCANCEL", L"Cancel"},
-        {IDC_STATIC_CFG, L"IDC_STATIC_CFG", L""},
-        {IDC_STATIC_MODE, L"IDC_STATIC_MODE", L""},
-    };
-    SetControlTexts(TEXTS);
-    return 1;
+    AddPage(m_pageCommon, IDD_PRINT_MODE_CMMN, L"TAB_COMMON");
+    AddPage(m_pageData, IDD_PRINT_MODE_DATA, L"TAB_DATA");
 }
 
-BOOL CDlgPrintMode::PreTranslateMessage(MSG* pMsg)
+void CDlgPrintMode::FillLists()
 {
-    return m_tab.PreTranslateMessage(pMsg) || CDialogEx::PreTranslateMessage(pMsg);
+    FillConfigList(0);
 }
 
-void CDlgPrintMode::CreatePages()
+// By Enter the focus is still in a field whose value is written when it leaves. A refused one is not asked for again.
+void CDlgPrintMode::StoreEdits()
 {
-    CreateEditorTab(m_tab, *this, IDC_TAB);
-    m_pageCommon.Create(IDD_PRINT_MODE_CMMN, &m_tab);
-    m_pageData.Create(IDD_PRINT_MODE_DATA, &m_tab);
-    m_tab.AddTab(&m_pageCommon, GetLanguageText(L"TAB_COMMON", L""));
-    m_tab.AddTab(&m_pageData, GetLanguageText(L"TAB_DATA", L""));
-    m_tab.SetActiveTab(0);
-}
-
-void CDlgPrintMode::OnOK()
-{
-    // By Enter the focus is still in a field whose value is written when it leaves. A refused one is not asked for
-    // again.
     if (!m_pageCommon.IsRefused())
         GotoDlgCtrl(&m_btnOk);
     m_pageCommon.StoreToMode();
-    CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
-    const CWaitCursor wait;
-    GetHostContext().pControl->SaveParameters(SAVE_FACTORY_DATA);
 }
 
 void CDlgPrintMode::OnAddConfig()

@@ -1,29 +1,24 @@
 #pragma once
 
-#include "dialogs/base/DlgBase.h"
+#include "dialogs/base/DlgEditor.h"
 #include "dialogs/printmode/DlgPrintModeCmmn.h"
 #include "dialogs/printmode/DlgPrintModeData.h"
-
-#include <afxbutton.h>
-#include <afxdialogex.h>
-#include <afxtabctrl.h>
 
 class IPrintConfig;
 
 // The print-mode editor: the host's configurations, the modes of the selected one, and two pages for the selected
 // mode. Everything is edited in the host's own objects; OK asks the host to save them.
-class CDlgPrintMode : public CDialogEx, public CDlgBase
+class CDlgPrintMode : public CDlgEditor
 {
 public:
     CDlgPrintMode();
 
-    int ApplyLanguage() override;
-    BOOL PreTranslateMessage(MSG* pMsg) override;
-
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
-    void OnOK() override;
+    void AddPages() override;
+    void FillLists() override;
+    void StoreEdits() override;
 
     void OnAddConfig();
     void OnDeleteConfig();
@@ -39,7 +34,6 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void CreatePages();
     void AppendConfig(IPrintConfig& config);
     void FillConfigList(int nSelect);
     void FillModeList(bool bSkipStore);
@@ -60,12 +54,7 @@ private:
     CMFCButton m_btnDeleteMode;
     CMFCButton m_btnMoveUp;
     CMFCButton m_btnMoveDown;
-    CMFCButton m_btnCancel;
-    CMFCButton m_btnOk;
-    CMFCButton m_btnApply;
-    CListBox m_lstConfigs;
     CListBox m_lstModes;
-    CMFCTabCtrl m_tab;
     CDlgPrintModeCmmn m_pageCommon;
     CDlgPrintModeData m_pageData;
 };

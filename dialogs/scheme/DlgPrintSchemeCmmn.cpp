@@ -7,7 +7,6 @@
 #include "host/IActiveSetup.h"
 #include "host/IChannelList.h"
 #include "host/IChannelSetup.h"
-#include "host/IDeviceState.h"
 #include "host/IHeadLayout.h"
 #include "host/IHeadLayoutList.h"
 #include "host/IHostData.h"
@@ -27,12 +26,6 @@ constexpr int MAX_NAME_CHARS = 60;
 
 // A count beyond is junk: a scheme's waveform is read as a signed byte.
 constexpr int MAX_WAVES = 1024;
-
-IActiveSetup* ActiveSetup()
-{
-    IDeviceState* pState = GetHostContext().pData->GetDeviceState();
-    return pState ? pState->GetActiveSetup() : nullptr;
-}
 } // namespace
 
 CDlgPrintSchemeCmmn::CDlgPrintSchemeCmmn() : CSchemePage(IDD_SCHEME_CMMN) {}

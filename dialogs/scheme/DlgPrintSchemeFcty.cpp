@@ -50,17 +50,15 @@ int CDlgPrintSchemeFcty::ApplyLanguage()
     return CDlgSchemeEditor::ApplyLanguage();
 }
 
-std::vector<CDlgSchemeEditor::Page> CDlgPrintSchemeFcty::MakePages()
+void CDlgPrintSchemeFcty::AddPages()
 {
-    return {
-        {&m_pageCommon, IDD_SCHEME_CMMN, GetLanguageText(L"TAB_COMMON", L"")},
-        {&m_pageMode, IDD_SCHEME_MODE, GetLanguageText(L"TAB_MODE", L"")},
-        {&m_pageEclosion, IDD_SCHEME_ELC, GetLanguageText(L"TAB_ELC", L"")},
-        {&m_pageInkMul, IDD_SCHEME_INK_MUL, GetLanguageText(L"TAB_INK_MUL", L"")},
-        {&m_pageInkCut, IDD_SCHEME_INK_CUT, GetLanguageText(L"TAB_INK_CUT", L"")},
-        {&m_pageUv, IDD_SCHEME_UV, GetLanguageText(L"TAB_UV", L"")},
-        {&m_pageSapp, IDD_SCHEME_SAPP, GetLanguageText(L"TAB_SAPP", L"")},
-    };
+    AddPage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
+    AddPage(m_pageMode, IDD_SCHEME_MODE, L"TAB_MODE");
+    AddPage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
+    AddPage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
+    AddPage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
+    AddPage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
+    AddPage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
 }
 
 BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)

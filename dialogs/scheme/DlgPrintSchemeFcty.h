@@ -24,7 +24,7 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
-    std::vector<Page> MakePages() override;
+    void AddPages() override;
     void FillSchemeList() override;
     void RemoveFromHost(int nSchemeId) override;
     void OnShowingScheme(int nSchemeId) override;

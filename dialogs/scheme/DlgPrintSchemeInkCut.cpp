@@ -4,7 +4,6 @@
 #include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "host/IActiveSetup.h"
-#include "host/IDeviceState.h"
 #include "host/IHostData.h"
 #include "host/IInkChannel.h"
 #include "host/IInkGroup.h"
@@ -30,8 +29,7 @@ template <class Visitor>
 void ForEachActiveGroup(Visitor visit)
 {
     IInkGroupTable* pTable = InkGroups();
-    IDeviceState* pState = GetHostContext().pData->GetDeviceState();
-    IActiveSetup* pSetup = pTable && pState ? pState->GetActiveSetup() : nullptr;
+    IActiveSetup* pSetup = pTable ? ActiveSetup() : nullptr;
     const std::uint32_t nCount = pSetup ? SaneCount(pSetup->GetGroupCount()) : 0;
     for (std::uint32_t i = 0; i < nCount; ++i)
         if (IInkGroup* pGroup = pTable->GetGroup(pSetup->GetGroupId(i)))

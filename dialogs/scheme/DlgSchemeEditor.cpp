@@ -1,31 +1,24 @@
 #include "dialogs/scheme/DlgSchemeEditor.h"
 
 #include "dialogs/base/DlgPrintModeAddCfg.h"
-#include "dialogs/base/EditorTab.h"
-#include "dialogs/base/HostContext.h"
 #include "dialogs/base/Rows.h"
 #include "dialogs/scheme/ConfigNames.h"
-#include "host/IHostControl.h"
 #include "resources/resource.h"
 
 CDlgSchemeEditor::CDlgSchemeEditor(UINT nIDTemplate, int nFirstDeletableId, std::int32_t nSaveKind)
-    : CDialogEx(nIDTemplate), m_nFirstDeletableId(nFirstDeletableId), m_nSaveKind(nSaveKind)
+    : CDlgEditor(nIDTemplate, L"DLG_PRINT_SCHEME", nSaveKind), m_nFirstDeletableId(nFirstDeletableId)
 {
 }
 
 void CDlgSchemeEditor::DoDataExchange(CDataExchange* pDX)
 {
-    CDialogEx::DoDataExchange(pDX);
+    CDlgEditor::DoDataExchange(pDX);
     DDX_Control(pDX, IDC_BTN_ADD_SCHEME, m_btnAdd);
     DDX_Control(pDX, IDC_BTN_DEL_SCHEME, m_btnDelete);
-    DDX_Control(pDX, IDC_LIST_CFG, m_lstConfigs);
     DDX_Control(pDX, IDC_LIST_SCHEME, m_lstSchemes);
-    DDX_Control(pDX, IDCANCEL, m_btnCancel);
-    DDX_Control(pDX, IDOK, m_btnOk);
-    DDX_Control(pDX, IDC_BTN_APPLY, m_btnApply);
 }
 
-BEGIN_MESSAGE_MAP(CDlgSchemeEditor, CDialogEx)
+BEGIN_MESSAGE_MAP(CDlgSchemeEditor, CDlgEditor)
     ON_BN_CLICKED(IDC_BTN_ADD_SCHEME, &CDlgSchemeEditor::OnAddScheme)
     ON_BN_CLICKED(IDC_BTN_DEL_SCHEME, &CDlgSchemeEditor::OnDeleteScheme)
     ON_LBN_SELCHANGE(IDC_LIST_CFG, &CDlgSchemeEditor::OnConfigSelChange)
@@ -34,66 +27,24 @@ BEGIN_MESSAGE_MAP(CDlgSchemeEditor, CDialogEx)
     ON_BN_CLICKED(IDC_BTN_APPLY, &CDlgSchemeEditor::OnApply)
 END_MESSAGE_MAP()
 
-BOOL CDlgSchemeEditor::OnInitDialog()
+void CDlgSchemeEditor::AddPage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey)
 {
-    if (!CDialogEx::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
-    CreatePages();
-    if (GetHostContext().pData)
-    {
-        FillConfigList();
-        FillSchemeList();
-    }
-    m_btnApply.ShowWindow(SW_HIDE);
-    return TRUE;
+    CDlgEditor::AddPage(page, nTemplate, pszTabKey);
+    m_vecPages.push_back(&page);
 }
 
-int CDlgSchemeEditor::ApplyLanguage()
-{
-    static constexpr ControlText TEXTS[] = {
-        {IDOK, L"SAVE_QUIT", L"Save&Quit"},
-        {IDCANCEL, L"IDCANCEL", L"Cancel"},
-        {IDC_STATIC_CFG, L"IDC_STATIC_CFG", L""},
-        {IDC_STATIC_MODE, L"IDC_STATIC_MODE", L""},
-    };
-    SetControlTexts(TEXTS);
-    return 1;
-}
-
-BOOL CDlgSchemeEditor::PreTranslateMessage(MSG* pMsg)
-{
-    return m_tab.PreTranslateMessage(pMsg) || CDialogEx::PreTranslateMessage(pMsg);
-}
-
-void CDlgSchemeEditor::CreatePages()
-{
-    CreateEditorTab(m_tab, *this, IDC_TAB);
-    const std::vector<Page> pages = MakePages();
-    for (const Page& page : pages)
-    {
-        page.pPage->Create(page.nTemplate, &m_tab);
-        m_vecPages.push_back(page.pPage);
-    }
-    for (const Page& page : pages)
-        m_tab.AddTab(page.pPage, page.strTabLabel);
-    m_tab.SetActiveTab(0);
-}
-
-void CDlgSchemeEditor::FillConfigList()
+void CDlgSchemeEditor::FillLists()
 {
     FillConfigNames(m_lstConfigs);
     m_lstConfigs.SetCurSel(0);
+    FillSchemeList();
 }
 
-void CDlgSchemeEditor::OnOK()
+void CDlgSchemeEditor::StoreEdits()
 {
     SavePages();
     for (int nSchemeId : m_deletions.InRemovalOrder())
         RemoveFromHost(nSchemeId);
-    CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
-    const CWaitCursor wait;
-    GetHostContext().pControl->SaveParameters(static_cast<std::uint32_t>(m_nSaveKind));
 }
 
 void CDlgSchemeEditor::OnDeleteScheme()

@@ -1,6 +1,7 @@
 #include "dialogs/scheme/SchemeRecords.h"
 
 #include "dialogs/base/HostContext.h"
+#include "host/IDeviceState.h"
 #include "host/IHostData.h"
 #include "host/IParamTable.h"
 #include "host/IUserScheme.h"
@@ -36,6 +37,13 @@ IUserScheme* UserSchemeAt(int nIndex)
 IPrintScheme* BaseSchemeOf(IUserScheme* pScheme)
 {
     return pScheme ? FactorySchemeAt(pScheme->GetBaseScheme()) : nullptr;
+}
+
+IActiveSetup* ActiveSetup()
+{
+    IHostData* pData = GetHostContext().pData;
+    IDeviceState* pState = pData ? pData->GetDeviceState() : nullptr;
+    return pState ? pState->GetActiveSetup() : nullptr;
 }
 
 int ParamCount(std::uint32_t nTable)

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+class IActiveSetup;
 class IPrintScheme;
 class IUserScheme;
 
@@ -23,6 +24,9 @@ constexpr std::uint32_t TABLE_CUSTOM_ECLOSION = 2057;
 IPrintScheme* FactorySchemeAt(int nIndex);
 IUserScheme* UserSchemeAt(int nIndex);
 IPrintScheme* BaseSchemeOf(IUserScheme* pScheme);
+
+// What the machine prints with now; null when the host tells nothing of it.
+IActiveSetup* ActiveSetup();
 
 // 0 when there is no such table.
 int ParamCount(std::uint32_t nTable);

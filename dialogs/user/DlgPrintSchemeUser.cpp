@@ -13,6 +13,8 @@
 #include "host/IUserScheme.h"
 #include "resources/resource.h"
 
+#include <initializer_list>
+
 namespace
 {
 constexpr std::int32_t SAVE_USER_DATA = 3;
@@ -32,19 +34,17 @@ int CDlgPrintSchemeUser::ApplyLanguage()
     return CDlgSchemeEditor::ApplyLanguage();
 }
 
-std::vector<CDlgSchemeEditor::Page> CDlgPrintSchemeUser::MakePages()
+void CDlgPrintSchemeUser::AddPages()
 {
-    std::vector<Page> pages = {
-        {&m_pageCommon, IDD_SCHEME_CMMN, GetLanguageText(L"TAB_COMMON", L"")},
-        {&m_pageEclosion, IDD_SCHEME_ELC, GetLanguageText(L"TAB_ELC", L"")},
-        {&m_pageInkMul, IDD_SCHEME_INK_MUL, GetLanguageText(L"TAB_INK_MUL", L"")},
-        {&m_pageInkCut, IDD_SCHEME_INK_CUT, GetLanguageText(L"TAB_INK_CUT", L"")},
-        {&m_pageUv, IDD_SCHEME_UV, GetLanguageText(L"TAB_UV", L"")},
-        {&m_pageSapp, IDD_SCHEME_SAPP, GetLanguageText(L"TAB_SAPP", L"")},
-    };
-    for (const Page& page : pages)
-        page.pPage->m_bUserEditor = TRUE;
-    return pages;
+    for (CSchemePage* pPage : std::initializer_list<CSchemePage*>{&m_pageCommon, &m_pageEclosion, &m_pageInkMul,
+                                                                  &m_pageInkCut, &m_pageUv, &m_pageSapp})
+        pPage->m_bUserEditor = TRUE;
+    AddPage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
+    AddPage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
+    AddPage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
+    AddPage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
+    AddPage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
+    AddPage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
 }
 
 void CDlgPrintSchemeUser::OnAddScheme()

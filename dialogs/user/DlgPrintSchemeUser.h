@@ -20,7 +20,7 @@ public:
 protected:
     void OnAddScheme() override;
 
-    std::vector<Page> MakePages() override;
+    void AddPages() override;
     void FillSchemeList() override;
     void RemoveFromHost(int nSchemeId) override;
 
