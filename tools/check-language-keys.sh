@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # check-language-keys.sh: holds the keys that dialogs ask for against the language files, both ways, and the files
-# against the form that the system reads. A source's keys belong to the section that it hands to InitLanguage; one
-# that hands none has the section that most of its folder hand. A key that is made by a format ("ECL%d_ID") stands for
-# all keys of its form.
+# against the form that the system reads. A source's keys belong to the section that it hands to InitLanguage or to the
+# editors' base; one that hands none has the section that most of its folder hand. The base's own keys belong to every
+# editor's section. A key that is made by a format ("ECL%d_ID") stands for all keys of its form.
 . "$(dirname "$0")/common.sh"
 
 cd "$project"
@@ -21,27 +21,33 @@ found() {
     cat "$@" | tr '\n' ' ' | { grep -oP "$pattern" || true; } | sort -u
 }
 
-sections_of() { cat "$@" | tr '\n' ' ' | { grep -oP 'InitLanguage\(\s*L"\K[^"]+' || true; }; }
+sections_of() { cat "$@" | tr '\n' ' ' | { grep -oP '(InitLanguage\(|CDlgEditor\(\s*\w+\s*,)\s*L"\K[^"]+' || true; }; }
 
 section_of_most() { sections_of "$@" | sort | uniq -c | sort -rn | awk 'NR == 1 { print $2 }'; }
 
 keys_of() {
     found '\{\s*ID\w+\s*,\s*L"\K[^"]+' "$1"
-    found '(GetLanguageText\(|SetControlText\(\s*ID\w+\s*,)\s*L"\K[^"]+' "$1"
+    found '(GetLanguageText\(|SetControlText\(\s*ID\w+\s*,|AddPage\([^;"]+,)\s*L"\K[^"]+' "$1"
     found 'Format\(\s*L"\K[A-Z]+%d_[A-Z]+(?=")' "$1"
     [ -z "$(found 'ApplyTitle\(\)' "$1")" ] || say TITLE
 }
 
-# asked: "SECTION<tab>KEY" for every key in the dialogs, made keys with "#" for their number.
+# asked_in SECTION KEYS: "SECTION<tab>KEY" for every key, made keys with "#" for their number.
+asked_in() { [ -z "$2" ] || sed "s|^|$1\t|; s|%d|#|" <<<"$2"; }
+
+# asked: what asked_in prints, of all dialogs.
 asked() {
-    local file section keys
+    local file section keys base=dialogs/base/DlgEditor.cpp
+    for section in $(found 'CDlgEditor\(\s*\w+\s*,\s*L"\K[^"]+' dialogs/*/*.cpp); do
+        asked_in "$section" "$(keys_of "$base")"
+    done
     for file in dialogs/*/*.cpp dialogs/*/*.h; do
         [[ $file != dialogs/base/* ]] || continue
         keys=$(keys_of "$file")
         section=$(section_of_most "$file")
         [ -n "$section" ] || section=$(section_of_most "${file%/*}"/*.cpp)
-        [ -z "$keys" ] || sed "s|^|$section\t|; s|%d|#|" <<<"$keys"
-    done | sort -u
+        asked_in "$section" "$keys"
+    done
 }
 
 # check_form FILE: UTF-16LE with a byte-order mark, CR LF, no key twice, no text empty.
@@ -74,7 +80,7 @@ compare() {
     done < <(comm -13 <(say "$all_asked") <(say "$as_asked"))
 }
 
-all_asked=$(asked)
+all_asked=$(asked | sort -u)
 [ -n "$all_asked" ] || die "no key found in dialogs/: has the way of asking changed?"
 language_files=(resources/lang/*/Quorvane.ini)
 [ ${#language_files[@]} -gt 1 ] || die "language files are missing"
