@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "refhost/MachineFileError.h"
-#include "refhost/NarrowText.h"
+#include "refhost/SystemText.h"
 
 namespace refhost
 {

@@ -2,10 +2,9 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
-#include "refhost/Machine.h"
 #include "refhost/MachineFileError.h"
+#include "refhost/MachineText.h"
 
 namespace refhost
 {
@@ -16,9 +15,5 @@ Machine LoadMachine(const std::wstring& path);
 
 /// Throws MachineFileError; the old file is untouched then.
 void SaveMachine(const Machine& machine, const std::wstring& path);
-
-/// The same without a file.
-Machine ParseMachine(std::string_view text);
-std::string FormatMachine(const Machine& machine);
 
 } // namespace refhost

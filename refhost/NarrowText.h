@@ -19,7 +19,4 @@ std::optional<std::string> NarrowFromUtf8(std::string_view utf8, std::uint32_t c
 /// Nothing when the bytes are no valid text of the code page.
 std::optional<std::string> Utf8FromNarrow(std::string_view narrow, std::uint32_t codePage);
 
-std::wstring WideFromUtf8(std::string_view utf8);
-std::string Utf8FromWide(std::wstring_view wide);
-
 } // namespace refhost

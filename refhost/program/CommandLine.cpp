@@ -1,6 +1,6 @@
 #include "refhost/program/CommandLine.h"
 
-#include "refhost/NarrowText.h"
+#include "refhost/SystemText.h"
 
 namespace refhost
 {

@@ -1,6 +1,6 @@
 #include "refhost/program/Dialogs.h"
 
-#include "refhost/NarrowText.h"
+#include "refhost/SystemText.h"
 
 namespace refhost
 {

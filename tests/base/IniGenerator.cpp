@@ -1,8 +1,6 @@
 #include "tests/base/IniGenerator.h"
 
-#include "tests/base/TempFolder.h"
-
-#include <windows.h>
+#include "tests/base/Utf16.h"
 
 namespace
 {
@@ -16,13 +14,27 @@ const std::vector<std::wstring> kValues{L"",     L"v",       L"\"v\"", L"\" v \"
                                         L"\"\"", L"\"'v'\"", L"a\\nb", L"v ;c",    L"a=b",  L"[z]"};
 const std::vector<std::wstring> kDefaults{L"", L"D", L"D  ", L" D\t ", L"\"D\"", L"'D' ", L"   ", L"\\n"};
 
-std::string Narrow(const std::wstring& text, UINT codePage)
+// In western code pages; whatever the system's is, it must read the bytes.
+std::string Narrow(const std::wstring& text)
 {
-    const int count = static_cast<int>(text.size());
-    std::string bytes(3 * text.size() + 1, '\0');
-    const int used = WideCharToMultiByte(codePage, 0, text.data(), count, bytes.data(), static_cast<int>(bytes.size()),
-                                         nullptr, nullptr);
-    bytes.resize(static_cast<size_t>(used));
+    std::string bytes;
+    for (wchar_t c : text)
+        bytes += c < 0x100 ? static_cast<char>(c) : '?';
+    return bytes;
+}
+
+// Every unit for itself: what halves of a pair become is no proper text.
+std::string Utf8(const std::wstring& text)
+{
+    std::string bytes;
+    for (wchar_t c : text)
+    {
+        if (c >= 0x800)
+            bytes += {static_cast<char>(0xE0 | c >> 12), static_cast<char>(0x80 | (c >> 6 & 0x3F))};
+        else if (c >= 0x80)
+            bytes += static_cast<char>(0xC0 | c >> 6);
+        bytes += static_cast<char>(c >= 0x80 ? 0x80 | (c & 0x3F) : c);
+    }
     return bytes;
 }
 } // namespace
@@ -33,11 +45,11 @@ std::string IniGenerator::File(IniEncoding encoding)
     switch (encoding)
     {
     case IniEncoding::Ansi:
-        return Narrow(text, CP_ACP);
+        return Narrow(text);
     case IniEncoding::Utf8:
-        return Narrow(text, CP_UTF8);
+        return Utf8(text);
     case IniEncoding::Utf8WithMark:
-        return "\xEF\xBB\xBF" + Narrow(text, CP_UTF8);
+        return "\xEF\xBB\xBF" + Utf8(text);
     case IniEncoding::Utf16WithMark:
         return Utf16(text);
     case IniEncoding::Utf16HighByteFirst:

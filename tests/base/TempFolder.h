@@ -21,4 +21,3 @@ private:
 };
 
 void WriteBytes(const std::wstring& path, std::string_view bytes);
-std::string Utf16(std::wstring_view text, bool withMark = true, bool highByteFirst = false);

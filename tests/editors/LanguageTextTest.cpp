@@ -1,3 +1,4 @@
+#include "tests/base/Utf16.h"
 #include "tests/editors/PrintModeTest.h"
 #include "tests/support/ThreadLocale.h"
 

@@ -2,7 +2,7 @@
 
 #include <stdexcept>
 
-#include "refhost/MachineFile.h"
+#include "refhost/MachineText.h"
 
 namespace
 {

@@ -1,5 +1,7 @@
 #include "tests/support/LanguageFolder.h"
 
+#include "tests/base/Utf16.h"
+
 void LanguageFolder::WriteTexts(const std::wstring& lines)
 {
     WriteBytes(Utf16(L"[DLG_PRINT_MODE]\r\n" + lines));

@@ -1,0 +1,139 @@
+#include "refhost/MachineText.h"
+
+#include <gtest/gtest.h>
+
+#include "refhost/MachineFileError.h"
+#include "tests/refhost/SmallMachine.h"
+
+using namespace refhost;
+
+namespace
+{
+
+std::string RefusalOf(const std::string& text)
+{
+    try
+    {
+        ParseMachine(text);
+    }
+    catch (const MachineFileError& error)
+    {
+        return error.what();
+    }
+    return "was accepted";
+}
+
+void ExpectRefusal(const std::string& text, const std::string& message)
+{
+    const std::string refusal = RefusalOf(text);
+    EXPECT_NE(refusal.find(message), std::string::npos) << refusal;
+}
+
+} // namespace
+
+TEST(MachineText, EveryValueComesBack)
+{
+    const std::string text = FormatMachine(SmallMachine());
+    EXPECT_EQ(FormatMachine(ParseMachine(text)), text);
+
+    const Machine machine = ParseMachine(text);
+    EXPECT_EQ(machine.codePage, 936u);
+    EXPECT_EQ(machine.configurations[0].modes[1].largeDotCompensation, (std::vector<float>{3.0e8f, 1.0e-7f}));
+    EXPECT_EQ(machine.configurations[0].modes[1].frontCompensation, (std::vector<bool>{true, false}));
+    EXPECT_EQ(machine.configurations[1].name, "\xC8\xAB");
+    EXPECT_EQ(machine.factorySchemes[1].inkCut[31], 7);
+    EXPECT_EQ(machine.factorySchemes[0].smallFormatOffset, 65535);
+    EXPECT_EQ(machine.userSchemes[1].customEclosionId, 4000000000u);
+    EXPECT_EQ(machine.paramTables[1].entries, (std::vector<std::int32_t>{1, 0, -1}));
+    EXPECT_EQ(machine.customEclosions.definitions[0].modes[0].elements[1].height, 7);
+}
+
+TEST(MachineText, NamesAreWrittenAsReadableText)
+{
+    EXPECT_NE(FormatMachine(SmallMachine()).find("\"name\": \"\xE5\x85\xA8\""), std::string::npos);
+}
+
+TEST(MachineText, FloatsAreWrittenShort)
+{
+    EXPECT_NE(FormatMachine(SmallMachine()).find("\"smallDotCompensation\": [0.1, 1.5]"), std::string::npos);
+}
+
+TEST(MachineText, BytesThatAreNoTextComeBack)
+{
+    Machine machine = SmallMachine();
+    machine.configurations[0].name = "\x80\xFF odd \xC8";
+    EXPECT_EQ(ParseMachine(FormatMachine(machine)).configurations[0].name, machine.configurations[0].name);
+}
+
+TEST(MachineText, ByteOrderMarkIsAccepted)
+{
+    EXPECT_EQ(ParseMachine("\xEF\xBB\xBF" + FormatMachine(SmallMachine())).name, "Small");
+}
+
+TEST(MachineText, BrokenJsonIsRefusedWithItsLine)
+{
+    ExpectRefusal("{\n  \"format\": \"quorvane-machine\",\n  \"version\": ?\n}", "line 3");
+    ExpectRefusal("", "line 1");
+    ExpectRefusal(FormatMachine(SmallMachine()).substr(0, 300), "parse error at line");
+    ExpectRefusal(std::string("MZ\x90\0\3\0\0\0", 8), "line 1");
+}
+
+TEST(MachineText, ForeignJsonIsRefused)
+{
+    ExpectRefusal("{}", "format: is missing");
+    ExpectRefusal("[1, 2]", "[1,2] is no object");
+    ExpectRefusal(SmallMachineWith("quorvane-machine", "something else"), "format: this is no machine file");
+    ExpectRefusal(SmallMachineWith("\"version\": 1", "\"version\": 2"), "version: 2 is not known");
+    ExpectRefusal(SmallMachineWith("\"codePage\": 936", "\"codePage\": 65001"), "codePage: 65001");
+}
+
+TEST(MachineText, ValuesOutOfRangeAreRefusedWithTheirPlace)
+{
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 70000"),
+                  "configurations[0].xResolution: 70000 is no whole number from 0 to 65535");
+    ExpectRefusal(SmallMachineWith("\"passCount\": 8", "\"passCount\": -1"),
+                  "configurations[0].modes[1].passCount: -1 is no whole number from 0 to 65535");
+    ExpectRefusal(SmallMachineWith("\"colorCount\": 4", "\"colorCount\": 256"), "from 0 to 255");
+    ExpectRefusal(SmallMachineWith("[1, 255, 0]", "[1, 300, 0]"), "configurations[0].modes[1].headDataModes[1]: 300");
+    ExpectRefusal(SmallMachineWith("[1, 0, -1]", "[1, 0, 2147483648]"), "paramTables[1].entries[2]: 2147483648");
+    ExpectRefusal(SmallMachineWith("[1, 0, -1]", "[1, 0, 18446744073709551615]"), "paramTables[1].entries[2]");
+    ExpectRefusal(SmallMachineWith("[0.1, 1.5]", "[0.1, 1e39]"), "smallDotCompensation[1]");
+    ExpectRefusal(SmallMachineWith("\"range\": 200", "\"range\": 1.5"), "customEclosions.definitions[0].range: 1.5");
+}
+
+TEST(MachineText, ValuesOfAnotherKindAreRefusedWithTheirPlace)
+{
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": \"720\""),
+                  "configurations[0].xResolution");
+    ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": 5"), "configurations[0].name: 5 is no text");
+    ExpectRefusal(SmallMachineWith("\"locked\": true", "\"locked\": 1"), "definitions[0].locked: 1 is neither");
+    ExpectRefusal(SmallMachineWith("[\"360 dpi\", \"720 dpi\"]", "{}"), "xResolutions: {} is no list");
+    ExpectRefusal(SmallMachineWith("{\"id\": 1, \"groups\": [100, 101]}", "null"), "activeSetup: null is no object");
+}
+
+TEST(MachineText, MissingUnknownAndDoubleValuesAreRefused)
+{
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720,", ""), "configurations[0].xResolution: is missing");
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, \"zResolution\": 1"),
+                  "configurations[0].zResolution: a machine file has no such value");
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, \"xResolution\": 720"),
+                  "\"xResolution\" is there twice");
+}
+
+TEST(MachineText, ListsOfFixedLengthAreChecked)
+{
+    std::string text = FormatMachine(SmallMachine());
+    const std::size_t place = text.find("\"inkMultiple\": [10, ");
+    ASSERT_NE(place, std::string::npos);
+    text.erase(place + 16, 4);
+    ExpectRefusal(text, "factorySchemes[0].inkMultiple: has 15 values, but 16 are needed");
+}
+
+TEST(MachineText, NamesThatCannotBeServedAreRefused)
+{
+    ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": \"\xF0\x9F\x96\xA8\""),
+                  "configurations[0].name: \"\xF0\x9F\x96\xA8\" cannot be written in code page 936");
+    ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": \"a\\u0000b\""), "zero character");
+    ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": {\"bytes\": \"C8 4\"}"),
+                  "configurations[0].name: \"C8 4\" is no list of bytes");
+}

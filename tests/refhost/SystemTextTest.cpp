@@ -1,0 +1,45 @@
+#include "refhost/SystemText.h"
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include "refhost/NarrowText.h"
+
+using namespace refhost;
+
+namespace
+{
+
+constexpr const char* kPrint = "\xE6\x89\x93\xE5\x8D\xB0"; // "print" in Chinese, UTF-8
+
+UINT ThreadCodePage()
+{
+    wchar_t codePage[8] = {};
+    GetLocaleInfoW(GetThreadLocale(), LOCALE_IDEFAULTANSICODEPAGE, codePage, 8);
+    return static_cast<UINT>(wcstoul(codePage, nullptr, 10));
+}
+
+} // namespace
+
+TEST(SystemText, EveryLocaleGivesTheThreadItsCodePage)
+{
+    const LCID before = GetThreadLocale();
+    for (UINT codePage : {932u, 936u, 950u, 1251u, 1252u})
+    {
+        ASSERT_TRUE(LocaleOfCodePage(codePage));
+        SetThreadLocale(*LocaleOfCodePage(codePage));
+        EXPECT_EQ(ThreadCodePage(), codePage);
+    }
+    SetThreadLocale(before);
+    EXPECT_FALSE(LocaleOfCodePage(65001));
+}
+
+TEST(SystemText, NamesConvertByTheThreadsCodePage)
+{
+    const LCID before = GetThreadLocale();
+    SetThreadLocale(*LocaleOfCodePage(936));
+    wchar_t wide[8] = {};
+    EXPECT_EQ(MultiByteToWideChar(CP_THREAD_ACP, 0, "\xB4\xF2\xD3\xA1", -1, wide, 8), 3);
+    EXPECT_EQ(WideFromUtf8(kPrint), wide);
+    SetThreadLocale(before);
+}
