@@ -1,5 +1,7 @@
 #include "refhost/JsonReader.h"
 
+#include <algorithm>
+
 #include "refhost/MachineFileError.h"
 #include "refhost/NarrowText.h"
 
@@ -79,10 +81,11 @@ void JsonReader::Read(const Json& json, const std::string& place, bool& value) c
 
 void JsonReader::Read(const Json& json, const std::string& place, float& value) const
 {
-    constexpr double limit = std::numeric_limits<float>::max();
+    constexpr double greatest = std::numeric_limits<float>::max();
+    constexpr double limit = 3.4028235e38; // the shortest text of the greatest float lies above it
     if (!json.is_number() || !(json.get<double>() >= -limit && json.get<double>() <= limit))
         Refuse(place, Shown(json) + " is no number that fits 32 bits");
-    value = json.get<float>();
+    value = static_cast<float>(std::clamp(json.get<double>(), -greatest, greatest));
 }
 
 void JsonReader::Read(const Json& json, const std::string& place, std::string& name) const

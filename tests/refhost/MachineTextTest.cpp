@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "refhost/MachineFileError.h"
 #include "tests/refhost/SmallMachine.h"
 
@@ -136,4 +138,15 @@ TEST(MachineText, NamesThatCannotBeServedAreRefused)
     ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": \"a\\u0000b\""), "zero character");
     ExpectRefusal(SmallMachineWith("\"name\": \"Fast\"", "\"name\": {\"bytes\": \"C8 4\"}"),
                   "configurations[0].name: \"C8 4\" is no list of bytes");
+}
+
+TEST(MachineText, GreatestFloatsComeBack)
+{
+    Machine machine = SmallMachine();
+    const float greatest = std::numeric_limits<float>::max();
+    machine.configurations[0].modes[1].smallDotCompensation = {greatest, -greatest};
+    EXPECT_EQ(ParseMachine(FormatMachine(machine)).configurations[0].modes[1].smallDotCompensation,
+              (std::vector<float>{greatest, -greatest}));
+    ExpectRefusal(SmallMachineWith("[0.1, 1.5]", "[0.1, 3.4028236e38]"),
+                  "smallDotCompensation[1]: 3.4028236e+38 is no");
 }
