@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "refhost/Excerpt.h"
 #include "refhost/MachineFileError.h"
 #include "refhost/NarrowText.h"
 
@@ -9,6 +10,8 @@ namespace refhost
 {
 namespace
 {
+
+constexpr std::size_t kLongestShown = 40;
 
 [[noreturn]] void Refuse(const std::string& place, const std::string& reason)
 {
@@ -19,7 +22,7 @@ namespace
 std::string Shown(const Json& json)
 {
     const std::string text = json.dump(-1, ' ', false, Json::error_handler_t::replace);
-    return text.size() <= 40 ? text : std::string("this ") + json.type_name();
+    return text.size() <= kLongestShown ? text : std::string("this ") + json.type_name();
 }
 
 // "C3 28" or "C328".
@@ -36,7 +39,8 @@ std::string BytesOfHex(const std::string& hex, const std::string& place)
         const std::size_t high = digits.find(nibbles[i]);
         const std::size_t low = i + 1 < nibbles.size() ? digits.find(nibbles[i + 1]) : std::string::npos;
         if (high == std::string::npos || low == std::string::npos)
-            Refuse(place, "\"" + hex + "\" is no list of bytes in pairs of the digits 0-9 and A-F");
+            Refuse(place,
+                   "\"" + Excerpt(hex, kLongestShown) + "\" is no list of bytes in pairs of the digits 0-9 and A-F");
         bytes.push_back(static_cast<char>(high * 16 + low));
     }
     return bytes;
@@ -55,7 +59,7 @@ void JsonReader::RefuseUnknownMembers() const
 {
     for (const auto& member : m_object.items())
         if (m_known.count(member.key()) == 0)
-            Refuse(PlaceOf(member.key()), "a machine file has no such value here");
+            Refuse(PlaceOf(Excerpt(member.key(), kLongestShown)), "a machine file has no such value here");
 }
 
 const Json& JsonReader::Member(const char* key)

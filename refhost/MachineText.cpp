@@ -1,8 +1,11 @@
 #include "refhost/MachineText.h"
 
+#include <algorithm>
+#include <array>
 #include <set>
-#include <vector>
+#include <sstream>
 
+#include "refhost/Excerpt.h"
 #include "refhost/JsonReader.h"
 #include "refhost/JsonWriter.h"
 #include "refhost/MachineFields.h"
@@ -17,34 +20,73 @@ namespace
 constexpr const char* kFormat = "quorvane-machine";
 constexpr std::uint32_t kVersion = 1;
 
-// Of two members of one name the parser would quietly keep the last.
-class DoubleMembers
+// What the parser would take and a machine file never holds, refused while it is read.
+class ShapeGuard
 {
 public:
-    bool operator()(int depth, Json::parse_event_t event, Json& parsed)
+    void Check(int depth, Json::parse_event_t event, const Json& parsed)
     {
         const auto level = static_cast<std::size_t>(depth);
-        m_keys.resize(std::max(m_keys.size(), level + 2));
+        // Walking the values of a deeper file would take more stack than there is.
+        if (level >= kDeepest)
+            throw MachineFileError("there are too many values inside one another");
         if (event == Json::parse_event_t::object_start)
             m_keys[level + 1].clear();
-        if (event == Json::parse_event_t::key && !m_keys[level].insert(parsed.get<std::string>()).second)
-            throw MachineFileError("the value \"" + parsed.get<std::string>() + "\" is there twice in one object");
-        return true;
+        if (event == Json::parse_event_t::key)
+            CheckKey(m_keys[level], parsed.get<std::string>());
     }
 
 private:
-    std::vector<std::set<std::string>> m_keys;
+    static void CheckKey(std::set<std::string>& keys, const std::string& key)
+    {
+        // Of two members of one name the parser would quietly keep the last.
+        if (!keys.insert(key).second)
+            throw MachineFileError("the value \"" + Excerpt(key, kLongestKey) + "\" is there twice in one object");
+        // It searches all members for each new one: a crowded object would take it hours.
+        if (keys.size() > kMostMembers)
+            throw MachineFileError("one object has too many values");
+    }
+
+    static constexpr std::size_t kDeepest = 32;
+    static constexpr std::size_t kMostMembers = 256;
+    static constexpr std::size_t kLongestKey = 40;
+
+    std::array<std::set<std::string>, kDeepest + 1> m_keys;
 };
+
+// "line 3, column 8" of the last character that was read, but for those that were read `ahead`.
+std::string PlaceReached(std::istream& stream, std::string_view text, std::size_t ahead)
+{
+    const auto offset = static_cast<std::streamoff>(stream.rdbuf()->pubseekoff(0, std::ios::cur, std::ios::in));
+    const auto read = static_cast<std::size_t>(std::max<std::streamoff>(offset, 0));
+    const std::string_view before = text.substr(0, read - std::min(read, ahead));
+    const auto lines = std::count(before.begin(), before.end(), '\n');
+    return "line " + std::to_string(lines + 1) + ", column " + std::to_string(before.size() - before.rfind('\n') - 1);
+}
 
 Json ParseJson(std::string_view text)
 {
+    constexpr std::size_t longestReason = 400; // the parser's reasons quote the file
+    std::istringstream stream{std::string(text)};
+    ShapeGuard guard;
     try
     {
-        return Json::parse(text, DoubleMembers());
+        return Json::parse(stream, [&guard](int depth, Json::parse_event_t event, const Json& parsed) {
+            guard.Check(depth, event, parsed);
+            return true;
+        });
     }
     catch (const Json::parse_error& error)
     {
-        throw MachineFileError(error.what());
+        throw MachineFileError(Excerpt(error.what(), longestReason));
+    }
+    catch (const Json::out_of_range&)
+    {
+        throw MachineFileError(PlaceReached(stream, text, 1) + ": the number is too large");
+    }
+    catch (const MachineFileError& error)
+    {
+        throw MachineFileError(PlaceReached(stream, text, 0) + ": " + error.what());
     }
 }
 

@@ -31,6 +31,14 @@ void ExpectRefusal(const std::string& text, const std::string& message)
     EXPECT_NE(refusal.find(message), std::string::npos) << refusal;
 }
 
+std::string Repeated(const std::string& text, std::size_t times)
+{
+    std::string result;
+    for (; times > 0; --times)
+        result += text;
+    return result;
+}
+
 } // namespace
 
 TEST(MachineText, EveryValueComesBack)
@@ -149,4 +157,54 @@ TEST(MachineText, GreatestFloatsComeBack)
               (std::vector<float>{greatest, -greatest}));
     ExpectRefusal(SmallMachineWith("[0.1, 1.5]", "[0.1, 3.4028236e38]"),
                   "smallDotCompensation[1]: 3.4028236e+38 is no");
+}
+
+TEST(MachineText, NumbersBeyondAllMeasureAreRefusedWithTheirLine)
+{
+    ExpectRefusal("{\n  \"format\": 1e999\n}", "line 2, column 17: the number is too large");
+    ExpectRefusal(SmallMachineWith("[1, 0, -1]", "[1, 0, -1e400]"), ": the number is too large");
+}
+
+TEST(MachineText, ValuesTooDeepInOneAnotherAreRefused)
+{
+    const std::string message = ": there are too many values inside one another";
+    constexpr std::size_t deep = 200'000;
+    ExpectRefusal(
+        SmallMachineWith("\"xResolution\": 720", "\"xResolution\": " + Repeated("[", deep) + Repeated("]", deep)),
+        message);
+    ExpectRefusal(Repeated("{\"name\":", deep), "line 1, column 255" + message);
+    ExpectRefusal(Repeated("[", 32) + Repeated("]", 32), "is no object");
+}
+
+TEST(MachineText, CrowdedObjectsAreRefused)
+{
+    std::string members = "\"0\": 0";
+    for (int i = 1; i < 256; ++i)
+        members += ",\n\"" + std::to_string(i) + "\": 0";
+    ExpectRefusal("{" + members + "}", "format: is missing");
+    ExpectRefusal("{" + members + ",\n\"256\": 0}", "line 257, column 5: one object has too many values");
+}
+
+TEST(MachineText, DoubleValuesAreRefusedWithTheirLine)
+{
+    ExpectRefusal("{\n\"a\": 1,\n\"a\": 2}", "line 3, column 3: the value \"a\" is there twice");
+}
+
+TEST(MachineText, RefusalsQuoteLittleOfTheFile)
+{
+    const std::string text(100'000, 'x');
+    const std::string quoted = "\"" + text + "\"";
+    for (const std::string& broken :
+         {"{" + quoted, "{" + quoted + ": ?}", "{" + quoted + ": 1, " + quoted + ": 2}",
+          SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, " + quoted + ": 1"),
+          SmallMachineWith("\"name\": \"Fast\"", "\"name\": {\"bytes\": " + quoted + "}"),
+          SmallMachineWith("\"xResolution\": 720", "\"xResolution\": " + quoted)})
+        EXPECT_LT(RefusalOf(broken).size(), 500u);
+}
+
+TEST(MachineText, RefusalsAreProperText)
+{
+    EXPECT_NE(RefusalOf("[\"\xC3(\"]").find("\xEF\xBF\xBD"), std::string::npos);
+    ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, \"a\\u0000b\": 1"),
+                  "configurations[0].a b: a machine file has no such value here");
 }
