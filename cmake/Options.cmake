@@ -9,8 +9,10 @@ target_include_directories(quorvane_options INTERFACE ${PROJECT_SOURCE_DIR})
 
 # Two builds of one commit are identical: no source paths in the objects, no time stamps in the images.
 add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
-add_link_options(-static -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
-if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+if(WIN32)
+    add_link_options(-static -Wl,--no-insert-timestamp -Wl,--dynamicbase -Wl,--nxcompat)
+endif()
+if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 8)
     add_link_options(-Wl,--high-entropy-va)
 endif()
 # Test programs keep their symbols for back traces.
