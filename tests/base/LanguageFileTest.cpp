@@ -4,6 +4,9 @@
 #include "tests/base/LanguageCases.h"
 #include "tests/base/TempFolder.h"
 #include "tests/base/Utf16.h"
+#include "tests/fuzz/CurrentInput.h"
+#include "tests/fuzz/LanguageInputs.h"
+#include "tests/support/RunLength.h"
 
 #include <gtest/gtest.h>
 #include <vector>
@@ -71,6 +74,47 @@ INSTANTIATE_TEST_SUITE_P(Encodings, GeneratedLanguageFile,
                          testing::Values(IniEncoding::Ansi, IniEncoding::Utf8, IniEncoding::Utf8WithMark,
                                          IniEncoding::Utf16WithMark, IniEncoding::Utf16HighByteFirst,
                                          IniEncoding::Utf16WithoutMark, IniEncoding::Junk));
+
+// The system takes its arguments up to a NUL.
+LanguageQuestion Askable(const LanguageQuestion& question)
+{
+    return {question.section.c_str(), question.key.c_str(), question.defaultText.c_str()};
+}
+
+class MutatedLanguageFile : public testing::TestWithParam<unsigned>
+{
+protected:
+    void Compare(const std::string& bytes)
+    {
+        const std::wstring path = m_folder.Write(L"mutated.ini", bytes);
+        const CLanguageFile file(path);
+        for (const LanguageQuestion& question : m_inputs.QuestionsFor(bytes))
+        {
+            const auto [section, key, defaultText] = Askable(question);
+            ASSERT_EQ(file.GetText(section, key, defaultText), SystemText(path, section, key, defaultText));
+        }
+    }
+
+    LanguageInputs m_inputs{"lang"};
+    TempFolder m_folder;
+};
+
+TEST_P(MutatedLanguageFile, ReadsAsTheSystemDoes)
+{
+    for (unsigned number = 0; number < 100; ++number)
+    {
+        Random random(std::uint64_t{GetParam()} << 32 | number);
+        std::string bytes = m_inputs.File(random);
+        // Of an odd last byte after a byte-order mark the system makes whatever lies behind it in memory.
+        bytes.resize(bytes.size() / 2 * 2);
+        CurrentInput() = {"MutatedLanguageFile", GetParam(), number, bytes};
+        Compare(bytes);
+        ASSERT_FALSE(HasFatalFailure()) << KeepCurrentInput();
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, MutatedLanguageFile, testing::Range(FirstSeed(), FirstSeed() + RunCount(5, 200)),
+                         [](const auto& test) { return std::to_string(test.param); });
 
 class LanguageFileOnDisk : public testing::Test
 {

@@ -1,0 +1,70 @@
+#include "tests/fuzz/CurrentInput.h"
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <gtest/gtest.h>
+#include <sanitizer/common_interface_defs.h>
+#include <unistd.h>
+
+// The sanitizers look for these names.
+extern "C" const char* __asan_default_options();
+extern "C" const char* __ubsan_default_options();
+
+// A failed assertion of the standard library aborts. What is kept of freed memory and of the roads to allocations is
+// little, for speed; what an input may take of memory is limited.
+const char* __asan_default_options()
+{
+    return "handle_abort=1:quarantine_size_mb=16:malloc_context_size=3:max_allocation_size_mb=512:hard_rss_limit_mb="
+           "2048";
+}
+
+const char* __ubsan_default_options()
+{
+    return "print_stacktrace=1";
+}
+
+namespace
+{
+// Far beyond what any test case takes.
+constexpr unsigned kSecondsOfACase = 300;
+
+// Told by the program's own means: they need no memory from a heap that may be broken.
+void KeepInputOfTheEnd()
+{
+    const FuzzInput& input = CurrentInput();
+    char file[200] = {};
+    std::snprintf(file, sizeof file, "fuzz/%s-%u-%u.bin", input.kind, input.seed, input.number);
+    if (std::FILE* const kept = std::fopen(file, "wb"))
+    {
+        std::fwrite(input.bytes.data(), 1, input.bytes.size(), kept);
+        std::fclose(kept);
+    }
+    std::fprintf(stderr, "Ended by input %u of seed %u, kept in %s; again: ./test.sh --seed %u --filter '*%s*/%u'\n",
+                 input.number, input.seed, file, input.seed, input.kind, input.seed);
+}
+
+void EndHungProgram(int)
+{
+    KeepInputOfTheEnd();
+    _exit(124);
+}
+
+class HangGuard : public testing::EmptyTestEventListener
+{
+    void OnTestStart(const testing::TestInfo&) override { alarm(kSecondsOfACase); }
+    void OnTestEnd(const testing::TestInfo&) override { alarm(0); }
+};
+} // namespace
+
+int main(int argc, char** argv)
+{
+    std::setvbuf(stdout, nullptr, _IONBF, 0);
+    std::filesystem::create_directories("fuzz");
+    __sanitizer_set_death_callback(KeepInputOfTheEnd);
+    std::signal(SIGALRM, EndHungProgram);
+    testing::InitGoogleTest(&argc, argv);
+    testing::UnitTest::GetInstance()->listeners().Append(new HangGuard);
+    return RUN_ALL_TESTS();
+}
