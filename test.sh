@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds, and runs every test under Wine. See usage.
+# Sets up what is missing, builds, and runs every test. See usage.
 . "$(dirname "$0")/tools/common.sh"
 . "$project/tools/screen.sh"
 . "$project/tools/x86-root.sh"
@@ -7,9 +7,10 @@
 
 usage() {
     cat <<'TEXT'
-Usage: ./test.sh [--arch x64|x86] [--filter PATTERN] [--seed N] [--long]
-Sets up what is missing, builds, and runs every test on x64 and x86 under Wine.
-  --arch x64|x86     one architecture only
+Usage: ./test.sh [--arch x64|x86|native-asan] [--filter PATTERN] [--seed N] [--long]
+Sets up what is missing, builds, and runs every test on x64 and x86 under Wine, and natively under the address
+sanitizer what needs no window.
+  --arch ARCH        one of the three only
   --filter PATTERN   only tests whose full name matches (a GoogleTest filter)
   --seed N           seeded tests start from this seed (usually from 1; in a long run from one that is printed)
   --long             seeded tests repeat themselves for hours
@@ -24,11 +25,11 @@ refuse() {
     exit 2
 }
 
-arches=(x64 x86) filter='*' seed= long=
+arches=(x64 x86 native-asan) filter='*' seed= long=
 parse_options() {
     while [ $# -gt 0 ]; do
         case "$1 ${2:-}" in
-        "--arch x64" | "--arch x86") arches=("$2") && shift ;;
+        "--arch x64" | "--arch x86" | "--arch native-asan") arches=("$2") && shift ;;
         "--filter "?*) filter=$2 && shift ;;
         "--seed "[0-9]*) seed=$2 && shift ;;
         "--long "*) long=true ;;
@@ -44,7 +45,7 @@ parse_options() {
 tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
 
 install_packages() {
-    local packages=("${x64_packages[@]}" clang-format)
+    local packages=("${x64_packages[@]}" g++ clang-format)
     ! tests_x86 || packages+=(g++-mingw-w64-i686-posix)
     ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
     install_missing "${packages[@]}"
@@ -68,9 +69,13 @@ build_all() {
 
 can_run() { [ "$1" != x86 ] || $x86_usable; }
 
-# run_arch ARCH: on a screen of its own.
+# run_arch ARCH: on a screen of its own where windows open.
 run_arch() {
     rm -rf "$build/$1/results"
+    if [ "$1" = native-asan ]; then
+        "$project/tools/run-suite.sh" "$1" "$filter" "$seed" "$long"
+        return
+    fi
     start_screen
     trap stop_screen EXIT
     if [ "$1" = x86 ] && ! system_has_wine32; then
@@ -103,7 +108,7 @@ count_all() {
     count_check "format of the sources" "$project/tools/check-format.sh"
     count_check "keys of the language files" "$project/tools/check-language-keys.sh"
     for arch in "${arches[@]}"; do
-        count_check "image of Quorvane.dll for $arch" "$project/tools/check-image.sh" "$arch"
+        [ "$arch" = native-asan ] || count_check "image of Quorvane.dll for $arch" "$project/tools/check-image.sh" "$arch"
     done
     checks=$((passed + failed))
     for arch in "${arches[@]}"; do

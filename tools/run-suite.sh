@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY; SEED and LONG
-# may be empty. For each it leaves NAME.log, NAME.xml and NAME.status (its exit status) in build/ARCH/results.
-# Runs on this system and inside the i386 system alike.
+# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY, or natively if
+# ARCH is native-asan; SEED and LONG may be empty. For each it leaves NAME.log, NAME.xml and NAME.status (its exit
+# status) in build/ARCH/results. Runs on this system and inside the i386 system alike.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/wine.sh"
 
@@ -14,15 +14,18 @@ limit=900
 
 # run_program NAME
 run_program() {
-    local status=0
-    timeout -k 10 "$limit" wine "$1.exe" --gtest_color=no "--gtest_filter=$filter" \
+    local status=0 program=(wine "$1.exe")
+    [ "$arch" != native-asan ] || program=("./$1")
+    timeout -k 10 "$limit" "${program[@]}" --gtest_color=no "--gtest_filter=$filter" \
         "--gtest_output=xml:../results/$1.xml" >"$results/$1.log" 2>&1 </dev/null || status=$?
     printf '%s\n' "$status" >"$results/$1.status"
     say "$arch $1: ended with status $status"
 }
 
-fresh_prefix "$arch" "$arch" wine-tests.reg
-trap end_wine EXIT
+if [ "$arch" != native-asan ]; then
+    fresh_prefix "$arch" "$arch" wine-tests.reg
+    trap end_wine EXIT
+fi
 mkdir -p "$results"
 cd "$build/$arch/bin"
 while read -r program; do
