@@ -1,5 +1,7 @@
 #include "refhost/MachineFile.h"
 
+#include <new>
+
 #include "refhost/AtomicFile.h"
 #include "refhost/SystemText.h"
 
@@ -16,6 +18,10 @@ Machine LoadMachine(const std::wstring& path)
     catch (const MachineFileError& error)
     {
         throw MachineFileError(Utf8FromWide(path) + ": " + error.what());
+    }
+    catch (const std::bad_alloc&)
+    {
+        throw MachineFileError(Utf8FromWide(path) + ": there is not enough memory for it");
     }
 }
 
