@@ -52,3 +52,8 @@ void FactoryEditor::CopyTo(const std::vector<int>& configs, int row) const
         dialog.Control<ListBox>(IDC_LIST_CFG).ClickRow(config);
     Confirm(dialog);
 }
+
+FactoryEditor ExpectFactoryEditor(Operator& op)
+{
+    return {op, ExpectSchemeEditor(op, "the factory editor")};
+}

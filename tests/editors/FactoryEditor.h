@@ -20,3 +20,5 @@ public:
     Window ExpectCopyDialog() const;
     void CopyTo(const std::vector<int>& configs, int row) const;
 };
+
+FactoryEditor ExpectFactoryEditor(Operator& op);

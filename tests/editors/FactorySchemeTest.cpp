@@ -18,8 +18,7 @@ StoredScheme FactorySchemeTest::StoredPages(std::size_t index) const
 EditorTest::WindowScript FactorySchemeTest::WithEditor(const Script& script)
 {
     return [&script](Operator& op) {
-        const auto isEditor = [](const Window& dialog) { return dialog.Has(IDC_LIST_SCHEME); };
-        FactoryEditor editor(op, op.ExpectDialogWith("the factory editor", isEditor));
+        FactoryEditor editor = ExpectFactoryEditor(op);
         script(editor);
     };
 }

@@ -12,3 +12,8 @@ ConfigDialog PrintModeEditor::OpenAddConfig() const
     Press(IDC_BTN_ADD_CFG);
     return ConfigDialog(Op().ExpectDialog(kAddConfigCaption));
 }
+
+PrintModeEditor ExpectPrintModeEditor(Operator& op)
+{
+    return {op, op.ExpectDialog(kEditorCaption)};
+}

@@ -24,3 +24,5 @@ public:
     ConfigDialog OpenAddConfig() const;
     ConfigDialog OpenRename(int row) const { return OpenConfig(row); }
 };
+
+PrintModeEditor ExpectPrintModeEditor(Operator& op);

@@ -22,7 +22,7 @@ void PrintModeTest::RunAgain(const Script& script)
 EditorTest::WindowScript PrintModeTest::WithEditor(const Script& script)
 {
     return [&script](Operator& op) {
-        PrintModeEditor editor(op, op.ExpectDialog(kEditorCaption));
+        PrintModeEditor editor = ExpectPrintModeEditor(op);
         script(editor);
     };
 }

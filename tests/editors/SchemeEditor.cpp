@@ -1,6 +1,6 @@
 #include "tests/editors/SchemeEditor.h"
 
-#include "tests/editors/SchemeMachine.h"
+#include "tests/editors/CustomEclosionType.h"
 
 #include <algorithm>
 
@@ -48,4 +48,9 @@ Window SchemeEditor::OpenCustomEclosion() const
     types.Pick(types.RowWithData(kCustomEclosionType));
     return Op().ExpectDialogWith("the dialog for custom eclosions",
                                  [](const Window& dialog) { return dialog.Has(IDC_SLIDER_ECLO_RANGE); });
+}
+
+Window ExpectSchemeEditor(Operator& op, const std::string& name)
+{
+    return op.ExpectDialogWith(name, [](const Window& dialog) { return dialog.Has(IDC_LIST_SCHEME); });
 }

@@ -51,3 +51,6 @@ private:
 
 // The pages whose controls an operator can change: one of each page stands for all.
 std::vector<SchemePage> EditablePages(const SchemeEditor& editor);
+
+// Its caption is the language file's, so it is known by its list of schemes. Both scheme editors have one.
+Window ExpectSchemeEditor(Operator& op, const std::string& name);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "refhost/Machine.h"
+#include "tests/editors/CustomEclosionType.h"
 
 // A small machine for the tests of the scheme editors. Each scheme has values of its own, all within what the pages can
 // show.
@@ -12,5 +13,3 @@
 // The active set-up 5 has the groups "Colours" (colour index 7, channels 0 and 1), "Dark" (8, channels 2 and 3) and
 // "White" (9, channel 4). Three waveforms; eclosion types 0, 2 and 19; the custom level.
 refhost::Machine SchemeMachine();
-
-constexpr int kCustomEclosionType = 19;

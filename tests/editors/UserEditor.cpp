@@ -27,3 +27,8 @@ void UserEditor::DeleteScheme(int row) const
     Schemes().ClickRow(row);
     Press(IDC_BTN_DEL_SCHEME);
 }
+
+UserEditor ExpectUserEditor(Operator& op)
+{
+    return {op, ExpectSchemeEditor(op, "the user editor")};
+}

@@ -29,3 +29,5 @@ public:
     void AddScheme(const std::wstring& name) const;
     void DeleteScheme(int row) const;
 };
+
+UserEditor ExpectUserEditor(Operator& op);

@@ -59,8 +59,7 @@ void UserSchemeTest::RunAgain(const Script& script)
 EditorTest::WindowScript UserSchemeTest::WithEditor(const Script& script)
 {
     return [&script](Operator& op) {
-        const auto isEditor = [](const Window& dialog) { return dialog.Has(IDC_LIST_SCHEME); };
-        UserEditor editor(op, op.ExpectDialogWith("the user editor", isEditor));
+        UserEditor editor = ExpectUserEditor(op);
         script(editor);
     };
 }
