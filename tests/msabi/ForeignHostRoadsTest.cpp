@@ -4,7 +4,7 @@
 #include "tests/editors/UserEditor.h"
 #include "tests/msabi/ForeignHostTest.h"
 
-#include <gtest/gtest.h>
+#include <algorithm>
 
 namespace
 {
@@ -108,11 +108,35 @@ private:
         m_host.TakeChanges();
         editor.Schemes().ClickRow(1);
         ExpectChanges(ChangedFactoryScheme());
+        ExpectValue("factory scheme Changed: ConfigIndex 0 Speed 2 Direction 2 Material -1 DotMode 3 DefaultRangeSS 1 "
+                    "DefaultRangeS 2 DefaultRangeM 3 DefaultRangeL 200 EclosionType 0 CustomEclosionId 70000 "
+                    "EclosionLevel 4 CustomRange 199 HeadEclosionType 0 LampLL 0 LampLR 1 LampRL 1 LampRR 1 Channel 1 "
+                    "multiples 10 80 30 40 50 60 70 80 10 20 30 40 50 60 70 80" +
+                    Cuts(60) +
+                    " ModeIndex 2 WaitStepStop 0 Wave 2 Enabled 0 LayoutId 40 HeadId 210 SmallFormatMode 1 "
+                    "SmallFormatOffset 65535");
         editor.Schemes().ClickRow(0);
         editor.Combo(SchemePage::Common, IDC_CMB_LAYOUT).Pick(1);
         ExpectLastChanges({"Poster.SetLayoutId(41)"});
         EXPECT_EQ(editor.Combo(SchemePage::Common, IDC_CMB_HEAD).Rows(), Texts{L"Single"});
         editor.Combo(SchemePage::Common, IDC_CMB_LAYOUT).Pick(0);
+    }
+
+    // What the host's own compiler made of the arguments.
+    void ExpectValue(const std::string& line)
+    {
+        const Lines values = m_host.Values();
+        EXPECT_NE(std::find(values.begin(), values.end(), line), values.end()) << line << "\nis not among\n"
+                                                                               << Text(values);
+    }
+
+    // Ink cuts as the host has them: one more each, until the last, which was changed.
+    static std::string Cuts(int first)
+    {
+        std::string text = " cuts";
+        for (int i = 0; i < 31; ++i)
+            text += " " + std::to_string(first + i);
+        return text + " 12";
     }
 
     static Lines ChangedFactoryScheme()
@@ -202,6 +226,11 @@ private:
         m_host.TakeChanges();
         editor.Schemes().ClickRow(kDivider);
         ExpectChanges(ChangedUserScheme());
+        ExpectValue("user scheme Changed: ConfigIndex 0 Speed 2 Direction 2 Material -1 DotMode 3 DefaultRangeSS 115 "
+                    "DefaultRangeS 126 DefaultRangeM 137 DefaultRangeL 148 EclosionType 0 CustomEclosionId 70004 "
+                    "EclosionLevel 4 CustomRange 199 HeadEclosionType 0 LampLL 0 LampLR 1 LampRL 0 LampRR 0 Channel 1 "
+                    "multiples 50 80 70 80 10 20 30 40 50 60 70 80 10 20 30 40" +
+                    Cuts(64) + " BaseScheme 0");
     }
 
     static Lines ChangedUserScheme()
@@ -325,6 +354,8 @@ private:
                        "Fast-2.SetBackCompensation(0, 1)", "Fast-2.SetHeadDataMode(1, 0)",
                        "Fast-2.SetHeadDataMode(2, 1)", "Fast-2.SetPassCount(16)", "Fast-2.SetXResolutionIndex(0)",
                        "Fast-2.SetName(\"Renamed\")", "Fast-2.SetDisabled(1)", "Fast-2.SetResident(0)"});
+        ExpectValue("mode Renamed: pass 16, disabled 1, resident 0, resolution 0, heads 1 2 255, small 11.500 3.250 "
+                    "13.500, medium -2.250 -3.250 -0.500, large 1000.125 101.125 102.125, front 1 0 1, back 0 0 0");
     }
 
     static void EnterDot(PrintModeEditor& editor, int groupId, int group, const wchar_t* shown, int editId,
@@ -361,7 +392,8 @@ private:
         adding.Type(IDC_EDIT_CFG_DOT_BITS, L"3");
         editor.Confirm(adding);
         ExpectChanges(AddedConfig());
-        EXPECT_EQ(editor.Configs().RowCount(), 4);
+        const std::wstring row = editor.Configs().Row(3);
+        EXPECT_EQ(row.substr(row.find(L" [")), L" [60001X1440][12C][3B]");
         const ConfigDialog renaming = editor.OpenRename(0);
         renaming.Type(IDC_EDIT_CFG_NAME, L"Quick");
         m_host.TakeChanges();

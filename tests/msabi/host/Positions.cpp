@@ -97,7 +97,7 @@ const Position kInkChannel[] = {
 
 const Position kInkChannelTable[] = {
     {6, "GetColorIndex", "cw"},
-    {8, "GetChannelsOfLayout", "vcp"},
+    {8, "GetChannelsOfLayout", "vca"},
 };
 
 const Position kInkGroup[] = {
@@ -136,7 +136,7 @@ const Position kMaterialList[] = {
 
 const Position kParamTable[] = {
     {17, "GetCount", "i"},
-    {21, "GetEntry", "vpu"},
+    {21, "GetEntry", "vau"},
 };
 
 const Position kPrintConfig[] = {

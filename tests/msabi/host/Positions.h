@@ -6,9 +6,9 @@ struct Position
 {
     unsigned number;
     const char* name;
-    // The result and then the arguments, a letter each: v nothing, p pointer, t text, f float, i and u 32 bits with and
-    // without sign, w 16 bits, s and c 8 bits with and without sign, b a boolean of one byte, e a clean 0 or 1 in 32
-    // bits.
+    // The result and then the arguments, a letter each: v nothing, p object, a storage of the caller, t text, f float,
+    // i and u 32 bits with and without sign, w 16 bits, s and c 8 bits with and without sign, b a boolean of one byte,
+    // e a clean 0 or 1 in 32 bits.
     const char* signature;
 };
 

@@ -90,6 +90,9 @@ void AddArgument(TextBuffer& text, char kind, uintptr_t value, const CallFrame& 
     case 'p':
         text.Add(LabelOf(value));
         break;
+    case 'a':
+        text.Add("storage");
+        break;
     case 'c':
         text.Add(static_cast<long long>(static_cast<uint8_t>(value)));
         break;
@@ -123,8 +126,8 @@ void CheckArgument(char kind, uintptr_t value)
         Require(static_cast<uint32_t>(value) <= 1, "a boolean argument is no clean 0 or 1 in 32 bits");
     if (kind == 't')
         Require(value != 0, "a name is null");
-    if (kind == 'p')
-        Require(value != 0, "an object is null");
+    if (kind == 'p' || kind == 'a')
+        Require(value != 0, "a pointer is null");
 }
 
 void CheckArguments(const CallFrame& frame)
