@@ -40,7 +40,7 @@ make_source() {
 # clang_tables: "INTERFACE NUMBER RESULT NAME(ARGUMENTS)"
 clang_tables() {
     clang++ "--target=${target_of[$arch]}" -std=c++17 -ffreestanding -fno-rtti -nostdinc++ \
-        -I"$project/tests/tables/freestanding" -I"$work" -c -emit-llvm -o /dev/null \
+        -I"$project/tools/freestanding" -I"$work" -c -emit-llvm -o /dev/null \
         -Xclang -fdump-vtable-layouts "$work/tables.cpp" >"$work/clang.dump" 2>&1 ||
         die "$(grep -m 5 error "$work/clang.dump")"
     sed -n '/^VFTable for /,/^$/p' "$work/clang.dump" |

@@ -51,6 +51,7 @@ const Position kDeviceState[] = {
     {16, "GetActiveSetup", "p"},
 };
 
+// The host returns 32 bits here, of which the library reads a byte.
 const Position kEclosionElement[] = {
     {4, "GetWidth", "c"},
     {5, "SetWidth", "vi"},
