@@ -22,7 +22,7 @@ public:
     virtual void Reserved7() {} // 7
 
     /// Appends the channels of a layout, in the order in which they are to be shown; the first twelve are. An unknown
-    /// layout appends nothing. The array is the library's: it is empty and has room reserved for 256 channels. Append
+    /// layout appends nothing. The array is the library's: it is empty and has room reserved for 65536 channels. Append
     /// by push_back and never beyond that room: growing would take memory from one run-time library that another gives
     /// back. With Microsoft's iterator debugging the vector is larger: set _ITERATOR_DEBUG_LEVEL to 0. The channels
     /// stay the host's and must live until the editor operation returns.

@@ -18,9 +18,9 @@ namespace
 constexpr int MAX_MULTIPLE = 8;
 constexpr int TENTHS = 10; // multiples are stored in tenths
 
-// The host appends with its own compiler's code: it must never need to grow the array with its own heap. Layout ids
-// and channel ids have far fewer values in use.
-constexpr std::size_t CHANNEL_ROOM = 256;
+// The host appends with its own compiler's code: it must never need to grow the array with its own heap. So there is
+// room for as many channels as there are channel ids.
+constexpr std::size_t CHANNEL_ROOM = 65536;
 
 std::uint8_t ColorIndexOf(IInkChannelTable& table, IInkChannel& channel)
 {
