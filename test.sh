@@ -109,8 +109,8 @@ count_all() {
     count_check "keys of the language files" "$project/tools/check-language-keys.sh"
     for arch in "${arches[@]}"; do
         [ "$arch" != native-asan ] || continue
-        count_check "image of Quorvane.dll for $arch" "$project/tools/check-image.sh" "$arch"
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
+        count_check "second build of Quorvane.dll for $arch" "$project/tools/check-same-build.sh" "$arch"
     done
     checks=$((passed + failed))
     for arch in "${arches[@]}"; do

@@ -7,6 +7,12 @@ target_compile_definitions(quorvane_options INTERFACE UNICODE _UNICODE WIN32_LEA
 target_compile_options(quorvane_options INTERFACE $<$<COMPILE_LANGUAGE:CXX>:-Wall;-Wextra;-Wconversion;-Wshadow;-Werror>)
 target_include_directories(quorvane_options INTERFACE ${PROJECT_SOURCE_DIR})
 
+# The one version, for version resources and what compares them.
+add_library(quorvane_version INTERFACE)
+target_compile_definitions(quorvane_version INTERFACE QUORVANE_VERSION_MAJOR=${PROJECT_VERSION_MAJOR}
+                                                      QUORVANE_VERSION_MINOR=${PROJECT_VERSION_MINOR}
+                                                      QUORVANE_VERSION_PATCH=${PROJECT_VERSION_PATCH})
+
 # Two builds of one commit are identical: no source paths in the objects, no time stamps in the images.
 add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.>)
 if(WIN32)
