@@ -29,3 +29,14 @@ file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/include)
 file(CREATE_LINK /usr/include/nlohmann ${PROJECT_BINARY_DIR}/include/nlohmann SYMBOLIC)
 add_library(nlohmann_json INTERFACE)
 target_include_directories(nlohmann_json SYSTEM INTERFACE ${PROJECT_BINARY_DIR}/include)
+
+# A checked build traps undefined behaviour and the misuse of the standard library. For every target: one inline function
+# without the checks would stand for all of its kind.
+option(QUORVANE_CHECKED "Memory faults and undefined behaviour end the program" OFF)
+if(QUORVANE_CHECKED)
+    add_compile_definitions(QUORVANE_CHECKED _GLIBCXX_ASSERTIONS)
+    add_compile_options($<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize=undefined,float-cast-overflow>
+                        $<$<COMPILE_LANGUAGE:C,CXX>:-fsanitize-undefined-trap-on-error>
+                        $<$<COMPILE_LANGUAGE:C,CXX>:-fstack-protector-all>)
+    add_link_options(-fstack-protector-all)
+endif()

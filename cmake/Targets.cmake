@@ -5,6 +5,13 @@ function(quorvane_library name)
     target_link_libraries(${name} PUBLIC quorvane_options ${ARG_LINKS})
 endfunction()
 
+# quorvane_guard_heap(TARGET): in a checked build, faults in the module's heap end the program.
+function(quorvane_guard_heap target)
+    if(QUORVANE_CHECKED)
+        target_link_libraries(${target} PRIVATE guarded_heap)
+    endif()
+endfunction()
+
 # quorvane_test(NAME SOURCES FILE... LINKS TARGET...): a GoogleTest program that ./test.sh runs. It loads the DLL at
 # run time, so it is never linked against it.
 function(quorvane_test name)
@@ -13,6 +20,7 @@ function(quorvane_test name)
     target_link_libraries(${name} PRIVATE quorvane_options ${ARG_LINKS} gtest)
     add_dependencies(${name} run_time_files)
     if(WIN32)
+        quorvane_guard_heap(${name})
         add_dependencies(${name} Quorvane)
     endif()
     set_property(GLOBAL APPEND PROPERTY QUORVANE_TESTS ${name})

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # Wine prefixes of the project's own, below build/wine; sourced, never run.
 
-declare -A wine_arch=([x64]=win64 [x86]=win32)
+declare -A wine_arch=([x64]=win64 [x64-checked]=win64 [x86]=win32)
 
 # wine_environment ARCH PREFIX
 wine_environment() {
@@ -13,14 +13,12 @@ wine_environment() {
 # fresh_prefix ARCH NAME SETTINGS...: makes build/wine/NAME anew, as a copy of a pristine prefix with further settings
 # (files of this folder), and makes it the current one.
 fresh_prefix() {
-    local arch=$1 prefix=$build/wine/$2 pristine=$build/wine/$1.pristine stamp settings
+    local arch=$1 prefix=$build/wine/$2 pristine=$build/wine/${wine_arch[$1]}.pristine settings
     shift 2
     wine_environment "$arch" "$prefix"
-    stamp="$(wine --version) $(cat "$project/tools/wine.reg" "$project/tools/wine.sh" | cksum)"
-    if [ "$(cat "$pristine.stamp" 2>/dev/null)" != "$stamp" ]; then
-        WINEPREFIX=$pristine make_pristine_prefix "$pristine"
-        printf '%s\n' "$stamp" >"$pristine.stamp"
-    fi
+    mkdir -p "$build/wine"
+    # Runs for the same kind of Windows share it; the first one makes it.
+    (flock 9 && WINEPREFIX=$pristine provide_pristine_prefix "$pristine") 9>"$pristine.lock"
     rm -rf "$prefix"
     cp -a --reflink=auto "$pristine" "$prefix"
     for settings; do
@@ -28,10 +26,18 @@ fresh_prefix() {
     done
 }
 
+# provide_pristine_prefix FOLDER
+provide_pristine_prefix() {
+    local stamp
+    stamp="$(wine --version) $(cat "$project/tools/wine.reg" "$project/tools/wine.sh" | cksum)"
+    [ "$(cat "$1.stamp" 2>/dev/null)" != "$stamp" ] || return 0
+    make_pristine_prefix "$1"
+    printf '%s\n' "$stamp" >"$1.stamp"
+}
+
 # make_pristine_prefix FOLDER
 make_pristine_prefix() {
     rm -rf "$1" "$1.stamp"
-    mkdir -p "$build/wine"
     timeout -k 5 300 wine wineboot -i >"$1.log" 2>&1 || die "Wine could not make a prefix, see $1.log"
     # Debian's Wine does not look for its fonts where Debian's package puts them; captions draw their buttons with this.
     ln -s /usr/share/wine/fonts/marlett.ttf "$1/drive_c/windows/Fonts/"

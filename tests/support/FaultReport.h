@@ -1,0 +1,9 @@
+#pragma once
+
+// Has every fault of the processor in this program, Quorvane.dll or what they call in the C library end the program
+// with a report. Windows and Wine throw such a fault away where the system calls a window procedure (a message from
+// another thread, one that a system call sends), so without this a test passes over it.
+void EndOnFaults();
+
+// The exit code of a program that ended so.
+constexpr unsigned kFaultExitCode = 70;
