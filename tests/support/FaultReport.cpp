@@ -58,6 +58,18 @@ void Print(const EXCEPTION_RECORD& record, HMODULE module)
     std::fflush(stdout);
 }
 
+// The one that the system starts for a program that crashes: it prints a back trace and ends the program. It wants to
+// be told again what happened.
+void CallDebugger(EXCEPTION_POINTERS* fault)
+{
+    using RaiseFunction = LONG(NTAPI*)(EXCEPTION_RECORD*, CONTEXT*, BOOLEAN isFirstChance);
+    const auto raise = reinterpret_cast<RaiseFunction>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll.dll"), "NtRaiseException")));
+    UnhandledExceptionFilter(fault);
+    if (raise)
+        raise(fault->ExceptionRecord, fault->ContextRecord, FALSE);
+}
+
 LONG CALLBACK Consider(EXCEPTION_POINTERS* fault)
 {
     const EXCEPTION_RECORD& record = *fault->ExceptionRecord;
@@ -68,7 +80,7 @@ LONG CALLBACK Consider(EXCEPTION_POINTERS* fault)
         return EXCEPTION_CONTINUE_SEARCH;
     Print(record, module);
     if (!(GetErrorMode() & SEM_NOGPFAULTERRORBOX))
-        UnhandledExceptionFilter(fault); // a debugger prints a back trace
+        CallDebugger(fault);
     TerminateProcess(GetCurrentProcess(), kFaultExitCode);
     return EXCEPTION_CONTINUE_SEARCH;
 }

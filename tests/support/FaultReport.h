@@ -5,5 +5,5 @@
 // another thread, one that a system call sends), so without this a test passes over it.
 void EndOnFaults();
 
-// The exit code of a program that ended so.
+// The exit code of a program that ended so and wants no debugger (SEM_NOGPFAULTERRORBOX).
 constexpr unsigned kFaultExitCode = 70;
