@@ -8,7 +8,7 @@
 arch=$1 filter=$2 seed=$3 long=$4
 results=$build/$arch/results
 # Far beyond what any program takes: only one that hangs gets there.
-limit=900
+limit=1800
 [ -z "$seed" ] || export QUORVANE_SEED=$seed
 [ -z "$long" ] || { export QUORVANE_LONG=$long && limit=86400; }
 
