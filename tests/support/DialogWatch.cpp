@@ -52,7 +52,7 @@ void DialogWatch::Created(HWND window, const CREATESTRUCTW& details)
         return;
     {
         const std::lock_guard<std::mutex> lock(m_mutex);
-        m_entries.push_back({window, details.lpszName ? details.lpszName : L"", false, true});
+        m_entries.push_back({window, details.lpszName ? details.lpszName : L"", m_claimsAll, true});
     }
     Changed();
 }
@@ -110,6 +110,14 @@ void DialogWatch::Claim(HWND dialog)
     for (Entry& entry : m_entries)
         if (entry.open && entry.handle == dialog)
             entry.claimed = true;
+}
+
+void DialogWatch::ClaimAll()
+{
+    const std::lock_guard<std::mutex> lock(m_mutex);
+    m_claimsAll = true;
+    for (Entry& entry : m_entries)
+        entry.claimed = true;
 }
 
 bool DialogWatch::IsOpen(HWND dialog) const

@@ -23,6 +23,8 @@ public:
     std::vector<HWND> Open() const;
     std::optional<HWND> FirstUnclaimed() const;
     void Claim(HWND dialog);
+    // Those to come too.
+    void ClaimAll();
     bool IsOpen(HWND dialog) const;
 
     // Of all that were opened so far; closed ones by the caption they came with.
@@ -50,6 +52,7 @@ private:
     mutable std::mutex m_mutex;
     std::condition_variable m_change;
     unsigned m_changes = 0;
+    bool m_claimsAll = false;
     std::vector<Entry> m_entries;
 };
 

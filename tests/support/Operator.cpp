@@ -50,6 +50,12 @@ Window Operator::ExpectDialogWith(const std::string& name, const std::function<b
     return dialog;
 }
 
+Window Operator::TopDialog()
+{
+    const std::vector<HWND> open = m_watch.Open();
+    return {*this, open.empty() ? nullptr : open.back()};
+}
+
 void Operator::ExpectClosed(const Window& dialog)
 {
     const std::string name = DescribeDialog(dialog.Handle());

@@ -36,6 +36,10 @@ public:
     Window ExpectDialogWith(const std::string& name, const std::function<bool(const Window&)>& isExpected);
     Window ExpectMessageBox();
     void ExpectClosed(const Window& dialog);
+    // Whatever opens from now on, or has opened so far, is expected.
+    void ExpectAnyDialog() { m_watch.ClaimAll(); }
+    // The innermost one that is open; none does not exist.
+    Window TopDialog();
     // Waits for a message box, presses its button and waits until it has gone.
     void AnswerMessageBox(int buttonId = IDOK);
 

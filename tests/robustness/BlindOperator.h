@@ -1,0 +1,40 @@
+#pragma once
+
+#include "tests/support/Operator.h"
+
+#include <random>
+
+// Acts at random on whatever is to be seen, as somebody does who understands nothing of it: on the innermost dialog,
+// on controls that are visible and enabled only.
+class BlindOperator
+{
+public:
+    BlindOperator(Operator& op, unsigned seed) : m_operator(op), m_random(seed) {}
+
+    // Some gestures; fewer where the editor ends before.
+    void Act(int gestures);
+    // Leaves every dialog until the editor has ended. Throws where one cannot be left.
+    void Leave();
+
+private:
+    unsigned Below(unsigned limit) { return static_cast<unsigned>(m_random() % limit); }
+    bool OneIn(unsigned chances) { return Below(chances) == 0; }
+
+    void Gesture();
+    void ActOn(const Window& dialog);
+    void ActOnControl(const Window& control);
+    void ActOnList(const Window& list);
+    void ActOnTrackbar(const Window& trackbar);
+    void TypeInto(const Window& edit);
+    void ChooseFrom(const Window& combo);
+    void PressSomeKey();
+    void TurnWheel();
+    void LeaveOnce(bool byForce);
+    void PressButtonOf(const Window& box);
+
+    POINT PointIn(const Window& window);
+    void PressKey(int virtualKey);
+
+    Operator& m_operator;
+    std::mt19937 m_random;
+};
