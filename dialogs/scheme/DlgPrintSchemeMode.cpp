@@ -55,9 +55,10 @@ void CDlgPrintSchemeMode::UpdateCtrlState()
 void CDlgPrintSchemeMode::LoadFromScheme()
 {
     IPrintScheme* pScheme = BoundScheme();
-    if (!pScheme)
+    IPrintConfig* pConfig = Config(); // asked for anew: the host may have lost it meanwhile
+    if (!pScheme || !pConfig)
         return;
-    int nSelect = FillModes(*Config(), pScheme->GetModeIndex());
+    int nSelect = FillModes(*pConfig, pScheme->GetModeIndex());
     if (m_cmbMode.GetCount() > 0)
     {
         if (nSelect < 0)

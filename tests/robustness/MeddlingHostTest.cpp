@@ -1,0 +1,85 @@
+#include "tests/editors/FactoryEditor.h"
+#include "tests/editors/PrintModeEditor.h"
+#include "tests/robustness/HostileHost.h"
+#include "tests/robustness/WholeMachine.h"
+#include "tests/support/EditorRun.h"
+#include "tests/support/LanguageFolder.h"
+#include "tests/support/Library.h"
+
+#include <gtest/gtest.h>
+
+// Hosts that do one wrong thing, at one moment.
+namespace
+{
+using Calls = std::vector<std::string>;
+
+class MeddlingHost : public testing::Test
+{
+protected:
+    template <class Editor>
+    void Run(const std::function<void(const Editor&)>& script)
+    {
+        constexpr bool isFactory = std::is_same_v<Editor, FactoryEditor>;
+        const auto operation = isFactory ? &IQuorvane::EditFactorySchemes : &IQuorvane::EditPrintModes;
+        const auto withEditor = [&](Operator& op) {
+            const auto isEditor = [](const Window& any) { return any.Has(IDC_LIST_CFG); };
+            const Editor editor(op, op.ExpectDialogWith("an editor", isEditor));
+            m_dialog = editor.Dialog().Handle();
+            script(editor);
+        };
+        const auto run = [&] {
+            return (m_interface.get()->*operation)(m_host.Data(), m_host.Control(), m_language.Path().c_str());
+        };
+        EXPECT_EQ(RunEditor(run, withEditor), 1);
+        EXPECT_EQ(m_host.WrongLoans(), 0u);
+        EXPECT_EQ(m_sound.Log().Violations(), Calls());
+    }
+
+    // As if the operator had used the control while the host dispatches messages.
+    void Notify(int control, int code) const
+    {
+        const HWND window = GetDlgItem(m_dialog, control);
+        SendMessageW(m_dialog, WM_COMMAND, static_cast<WPARAM>(MAKELONG(control, code)),
+                     reinterpret_cast<LPARAM>(window));
+    }
+
+    Calls ChangesWith(const std::string& text)
+    {
+        Calls found;
+        for (const std::string& call : m_sound.Log().Changes())
+            if (call.find(text) != std::string::npos)
+                found.push_back(call);
+        return found;
+    }
+
+    refhost::Machine m_machine = WholeMachine();
+    refhost::Host m_sound{m_machine, [] {
+                              refhost::HostFaults faults;
+                              faults.keepRemoved = true;
+                              return faults;
+                          }()};
+    HostileHost m_host{m_sound, Temper()};
+
+private:
+    Library::Interface m_interface = Library::Loaded().NewInterface();
+    LanguageFolder m_language;
+    HWND m_dialog = nullptr;
+};
+
+// Each time that it is asked for while the editor opens and shows another scheme.
+TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
+{
+    for (unsigned call = 0; call < 25; ++call)
+    {
+        SCOPED_TRACE(call);
+        m_host.Within(
+            &IConfigList::GetAt, [this] { m_host.GiveNull(); }, call);
+        Run<FactoryEditor>([](const FactoryEditor& editor) {
+            if (editor.Schemes().RowCount() > 1)
+                editor.Schemes().ClickRow(1);
+            editor.Cancel();
+        });
+    }
+}
+
+} // namespace
