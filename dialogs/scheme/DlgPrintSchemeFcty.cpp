@@ -18,6 +18,9 @@ namespace
 {
 constexpr std::int32_t SAVE_FACTORY_DATA = 2;
 
+// Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
+constexpr UINT WM_RIGHT_BUTTON_WENT_UP = WM_APP + 1;
+
 IFactorySchemeList* FactorySchemes()
 {
     return GetHostContext().pData->GetFactorySchemeList();
@@ -42,6 +45,7 @@ CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
     ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)
+    ON_MESSAGE(WM_RIGHT_BUTTON_WENT_UP, &CDlgPrintSchemeFcty::OnRightButtonUp)
 END_MESSAGE_MAP()
 
 int CDlgPrintSchemeFcty::ApplyLanguage()
@@ -64,7 +68,7 @@ void CDlgPrintSchemeFcty::AddPages()
 BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)
 {
     if (pMsg->message == WM_RBUTTONUP)
-        OnRightButtonUp();
+        SendMessage(WM_RIGHT_BUTTON_WENT_UP);
     return CDlgSchemeEditor::PreTranslateMessage(pMsg);
 }
 
@@ -115,7 +119,7 @@ void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
 
 // The selection follows the cursor's height wherever in the dialog the button was released; the menu belongs to the
 // list.
-void CDlgPrintSchemeFcty::OnRightButtonUp()
+LRESULT CDlgPrintSchemeFcty::OnRightButtonUp(WPARAM, LPARAM)
 {
     RECT rcRow = {};
     m_lstSchemes.GetItemRect(0, &rcRow);
@@ -134,6 +138,7 @@ void CDlgPrintSchemeFcty::OnRightButtonUp()
     }
     if (::PtInRect(&rcList, ptCursor))
         TrackCopyMenu(ptCursor);
+    return 0;
 }
 
 void CDlgPrintSchemeFcty::TrackCopyMenu(POINT ptScreen)

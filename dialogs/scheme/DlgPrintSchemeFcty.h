@@ -32,7 +32,7 @@ protected:
 private:
     void AddSchemesOf(int nConfig);
     void CopyTo(std::uint32_t nConfig, int nSourceId);
-    void OnRightButtonUp();
+    LRESULT OnRightButtonUp(WPARAM, LPARAM);
     void TrackCopyMenu(POINT ptScreen);
 
     CDlgPrintSchemeCmmn m_pageCommon;
