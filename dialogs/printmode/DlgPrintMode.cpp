@@ -27,8 +27,15 @@ public:
     explicit CNewConfig(IHostData& data) : m_data(data), m_pConfig(data.CreateConfig()) {}
     ~CNewConfig()
     {
-        if (m_pConfig)
-            m_data.DestroyConfig(m_pConfig);
+        try
+        {
+            if (m_pConfig)
+                m_data.DestroyConfig(m_pConfig);
+        }
+        catch (...)
+        {
+            // Thrown out of a destructor it would end the host.
+        }
     }
     CNewConfig(const CNewConfig&) = delete;
     CNewConfig& operator=(const CNewConfig&) = delete;

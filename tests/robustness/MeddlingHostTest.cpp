@@ -68,6 +68,16 @@ TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
 
 using ThrowingHost = MeddlingHost;
 
+TEST_F(ThrowingHost, MayThrowWhenItTakesAConfigurationBack)
+{
+    Run<PrintModeEditor>([this](const PrintModeEditor& editor) {
+        m_host.Within(&IHostData::DestroyConfig, [] { throw 1; });
+        editor.Confirm(editor.OpenAddConfig());
+        EXPECT_EQ(editor.Configs().RowCount(), 4);
+        editor.Cancel();
+    });
+}
+
 // Also where no window procedure is about to be left.
 TEST_F(ThrowingHost, LeavesTheEditorOpenWhenTheRightButtonGoesUp)
 {
