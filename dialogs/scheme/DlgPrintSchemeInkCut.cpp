@@ -30,7 +30,7 @@ void ForEachActiveGroup(Visitor visit)
 {
     IInkGroupTable* pTable = InkGroups();
     IActiveSetup* pSetup = pTable ? ActiveSetup() : nullptr;
-    const std::uint32_t nCount = pSetup ? SaneCount(pSetup->GetGroupCount()) : 0;
+    const std::uint32_t nCount = pSetup ? SaneCount(pSetup->GetGroupCount(), MAX_INK_COUNT) : 0;
     for (std::uint32_t i = 0; i < nCount; ++i)
         if (IInkGroup* pGroup = pTable->GetGroup(pSetup->GetGroupId(i)))
             visit(*pGroup);
@@ -127,7 +127,7 @@ CDlgPrintSchemeInkCut::Groups CDlgPrintSchemeInkCut::GroupsOfRows()
     Groups groups{};
     std::uint32_t nRows = MIN_PROBED_ROWS;
     ForEachActiveGroup([&](IInkGroup& group) {
-        const std::uint32_t nChannels = SaneCount(group.GetChannelCount());
+        const std::uint32_t nChannels = SaneCount(group.GetChannelCount(), MAX_INK_COUNT);
         nRows = std::max(nRows, nChannels);
         for (std::uint32_t i = 0; i < nChannels; ++i)
         {

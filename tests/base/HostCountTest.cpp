@@ -35,3 +35,10 @@ TEST(HostCount, BeyondAnyMachineIsNone)
     EXPECT_EQ(CountOf(0x80000000u), 0u);
     EXPECT_EQ(CountOf(0xFFFFFFFFu), 0u);
 }
+
+TEST(HostCount, OfListsWithinEachOtherHasALowerLimit)
+{
+    EXPECT_EQ(SaneCount(1024, MAX_INK_COUNT), 1024u);
+    EXPECT_EQ(SaneCount(1025, MAX_INK_COUNT), 0u);
+    EXPECT_EQ(SaneCount(0xFFFFFFFFu, MAX_INK_COUNT), 0u);
+}

@@ -63,6 +63,18 @@ TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
     }
 }
 
+// Either count alone would pass.
+TEST_F(MeddlingHost, SaysThatThereAreAMillionInkGroupsOfAMillionChannels)
+{
+    m_host.Always(&IActiveSetup::GetGroupCount, 1'000'000);
+    m_host.Always(&IActiveSetup::GetGroupId, 1);
+    m_host.Always(&IInkGroup::GetChannelCount, 1'000'000);
+    Run<FactoryEditor>([](const FactoryEditor& editor) {
+        editor.Schemes().ClickRow(1);
+        editor.Cancel();
+    });
+}
+
 // On x86 this compiler's unwinder knows the frames of its own module alone: there no host may throw.
 #if !defined(__i386__)
 
