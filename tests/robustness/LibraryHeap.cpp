@@ -1,0 +1,110 @@
+#include "tests/robustness/LibraryHeap.h"
+
+#include <cstdlib>
+#include <mutex>
+#include <unordered_map>
+
+namespace
+{
+class Books
+{
+public:
+    void* Add(void* block, std::size_t size)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        if (block && m_sizes.emplace(block, size).second)
+            m_bytes += size;
+        return block;
+    }
+
+    void Remove(void* block)
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        const auto found = m_sizes.find(block);
+        if (found == m_sizes.end())
+            return;
+        m_bytes -= found->second;
+        m_sizes.erase(found);
+    }
+
+    void Clear()
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        m_sizes.clear();
+        m_bytes = 0;
+    }
+
+    std::size_t Blocks() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_sizes.size();
+    }
+
+    std::size_t Bytes() const
+    {
+        const std::lock_guard<std::mutex> lock(m_mutex);
+        return m_bytes;
+    }
+
+private:
+    mutable std::mutex m_mutex;
+    std::unordered_map<void*, std::size_t> m_sizes;
+    std::size_t m_bytes = 0;
+};
+
+Books& TheBooks()
+{
+    static Books books;
+    return books;
+}
+
+void* CountedMalloc(std::size_t size)
+{
+    return TheBooks().Add(std::malloc(size), size);
+}
+
+void* CountedCalloc(std::size_t count, std::size_t size)
+{
+    return TheBooks().Add(std::calloc(count, size), count * size);
+}
+
+// A block that cannot be moved stays, uncounted: there is no memory left for anything then.
+void* CountedRealloc(void* block, std::size_t size)
+{
+    TheBooks().Remove(block);
+    return TheBooks().Add(std::realloc(block, size), size);
+}
+
+void CountedFree(void* block)
+{
+    TheBooks().Remove(block);
+    std::free(block);
+}
+
+template <class Function>
+const void* Address(Function function)
+{
+    return reinterpret_cast<const void*>(function);
+}
+} // namespace
+
+LibraryHeap::LibraryHeap(HMODULE module)
+    : m_malloc(module, "malloc", Address(&CountedMalloc)), m_calloc(module, "calloc", Address(&CountedCalloc)),
+      m_realloc(module, "realloc", Address(&CountedRealloc)), m_free(module, "free", Address(&CountedFree))
+{
+}
+
+LibraryHeap::~LibraryHeap()
+{
+    TheBooks().Clear();
+}
+
+std::size_t LibraryHeap::Blocks() const
+{
+    return TheBooks().Blocks();
+}
+
+std::size_t LibraryHeap::Bytes() const
+{
+    return TheBooks().Bytes();
+}

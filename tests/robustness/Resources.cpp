@@ -1,0 +1,127 @@
+#include "tests/robustness/Resources.h"
+
+#include <cstdint>
+#include <stdexcept>
+#include <vector>
+#include <windows.h>
+#include <winternl.h>
+
+extern "C" PVOID NTAPI RtlGetCurrentPeb();
+
+// Wine 8 gives 0 for GetGuiResources and GetProcessHandleCount, so the objects are counted where it keeps them: GDI's
+// in the table that a process shares with the system, handles in the system's list of all, windows and menus by asking.
+namespace
+{
+#if defined(_WIN64)
+constexpr std::size_t kGdiTableInPeb = 0xF8;
+#else
+constexpr std::size_t kGdiTableInPeb = 0x94;
+#endif
+
+constexpr int kGdiHandles = 0x4000;
+
+struct GdiEntry
+{
+    std::uint64_t object;
+    std::uint32_t owner;
+    std::uint8_t type; // 0 while the entry is free
+    std::uint8_t rest[3];
+    std::uint64_t userPointer;
+};
+static_assert(sizeof(GdiEntry) == 24);
+
+long CountGdiObjects()
+{
+    const auto* peb = reinterpret_cast<const char*>(RtlGetCurrentPeb());
+    const auto* table = *reinterpret_cast<GdiEntry* const*>(peb + kGdiTableInPeb);
+    long count = 0;
+    for (int i = 0; table && i < kGdiHandles; ++i)
+        count += table[i].type != 0;
+    return count;
+}
+
+BOOL CALLBACK CountOne(HWND, LPARAM count)
+{
+    ++*reinterpret_cast<long*>(count);
+    return TRUE;
+}
+
+BOOL CALLBACK CountWithChildren(HWND window, LPARAM count)
+{
+    EnumChildWindows(window, &CountOne, count);
+    return CountOne(window, count);
+}
+
+long CountWindows()
+{
+    long count = 0;
+    EnumThreadWindows(GetCurrentThreadId(), &CountWithChildren, reinterpret_cast<LPARAM>(&count));
+    for (HWND window = nullptr; (window = FindWindowExW(HWND_MESSAGE, window, nullptr, nullptr)) != nullptr;)
+        if (GetWindowThreadProcessId(window, nullptr) == GetCurrentThreadId())
+            CountWithChildren(window, reinterpret_cast<LPARAM>(&count));
+    return count;
+}
+
+long CountMenus()
+{
+    constexpr UINT_PTR first = 0x20, last = 0xFFEE; // of user handles, without their upper halves
+    long count = 0;
+    for (UINT_PTR handle = first; handle <= last; handle += 2)
+        count += IsMenu(reinterpret_cast<HMENU>(handle)) != FALSE;
+    return count;
+}
+
+struct SystemHandle
+{
+    ULONG process;
+    BYTE type;
+    BYTE flags;
+    USHORT value;
+    void* object;
+    ULONG access;
+};
+
+long CountHandles()
+{
+    constexpr auto allHandles = static_cast<SYSTEM_INFORMATION_CLASS>(16);
+    std::vector<std::uintptr_t> buffer(0x40000);
+    const auto bytes = static_cast<ULONG>(buffer.size() * sizeof(buffer[0]));
+    if (NtQuerySystemInformation(allHandles, buffer.data(), bytes, nullptr) != 0)
+        throw std::runtime_error("the system does not list its handles");
+    const ULONG all = *reinterpret_cast<const ULONG*>(buffer.data());
+    const auto* handles = reinterpret_cast<const SystemHandle*>(buffer.data() + 1);
+    long count = 0;
+    for (ULONG i = 0; i < all; ++i)
+        count += handles[i].process == GetCurrentProcessId();
+    return count;
+}
+
+long CountHeapBlocks()
+{
+    const HANDLE heap = GetProcessHeap();
+    PROCESS_HEAP_ENTRY entry{};
+    long count = 0;
+    HeapLock(heap);
+    while (HeapWalk(heap, &entry))
+        count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+    HeapUnlock(heap);
+    return count;
+}
+} // namespace
+
+Resources Resources::Held()
+{
+    return {CountGdiObjects(), CountWindows(), CountMenus(), CountHandles(), CountHeapBlocks()};
+}
+
+Resources operator-(const Resources& left, const Resources& right)
+{
+    return {left.gdiObjects - right.gdiObjects, left.windows - right.windows, left.menus - right.menus,
+            left.handles - right.handles, left.heapBlocks - right.heapBlocks};
+}
+
+std::ostream& operator<<(std::ostream& stream, const Resources& resources)
+{
+    return stream << resources.gdiObjects << " GDI objects, " << resources.windows << " windows, " << resources.menus
+                  << " menus, " << resources.handles << " handles, " << resources.heapBlocks << " heap blocks";
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ostream>
+
+// What this process holds of the system's.
+struct Resources
+{
+    static Resources Held();
+    // Anything but heap blocks.
+    bool HasObjects() const { return gdiObjects != 0 || windows != 0 || menus != 0 || handles != 0; }
+
+    long gdiObjects;
+    long windows; // of this thread, those for messages alone included
+    long menus;
+    long handles; // of the kernel
+    long heapBlocks;
+};
+
+Resources operator-(const Resources& left, const Resources& right);
+std::ostream& operator<<(std::ostream& stream, const Resources& resources);
