@@ -141,7 +141,7 @@ void CDlgPrintMode::OnDeleteConfig()
 {
     const int nLine = m_lstConfigs.GetCurSel();
     IConfigList* pList = ConfigList();
-    if (!SelectedConfig())
+    if (!pList || !SelectedConfig())
         return;
     // The configuration's modes go with it: the pages must not keep one of them.
     if (IsAttachedModeListed())

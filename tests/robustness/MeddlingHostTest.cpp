@@ -34,6 +34,15 @@ protected:
         EXPECT_EQ(m_sound.Log().Violations(), Calls());
     }
 
+    Calls ChangesWith(const std::string& text)
+    {
+        Calls found;
+        for (const std::string& call : m_sound.Log().Changes())
+            if (call.find(text) != std::string::npos)
+                found.push_back(call);
+        return found;
+    }
+
     refhost::Machine m_machine = WholeMachine();
     refhost::Host m_sound{m_machine, [] {
                               refhost::HostFaults faults;
@@ -61,6 +70,19 @@ TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
             editor.Cancel();
         });
     }
+}
+
+TEST_F(MeddlingHost, LosesTheListThatAConfigurationIsDeletedFrom)
+{
+    Run<PrintModeEditor>([this](const PrintModeEditor& editor) {
+        m_host.Within(&IHostData::GetConfigList, [this] { m_host.GiveNull(); });
+        editor.Press(IDC_BTN_DEL_CFG);
+        EXPECT_EQ(editor.Configs().RowCount(), 3);
+        editor.Press(IDC_BTN_DEL_CFG);
+        EXPECT_EQ(editor.Configs().RowCount(), 2);
+        editor.Cancel();
+    });
+    EXPECT_EQ(ChangesWith("IConfigList.RemoveAt"), Calls{"IConfigList.RemoveAt(0)"});
 }
 
 // Either count alone would pass.
