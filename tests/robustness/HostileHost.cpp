@@ -13,7 +13,7 @@ namespace
 constexpr std::size_t kChannelRoom = 256;
 constexpr std::size_t kEntryBytes = 256;
 constexpr std::uint32_t kMostMessages = 10;
-// A message that is dispatched within an operation may lead to the next operation.
+// A message that is dispatched while the host saves may lead to the next save.
 constexpr int kDeepestDispatch = 3;
 
 // A host's own type, derived from nothing.
@@ -42,7 +42,8 @@ void HostileHost::Enter(HostileObject& object, std::size_t position)
         object.text->Forbid();
     if (m_temper.LosesObjects())
         LoseObject();
-    if (m_dispatching < kDeepestDispatch && m_temper.DispatchesMessages())
+    if (object.table == OperationsOf<IHostControl>::Table() && m_dispatching < kDeepestDispatch &&
+        m_temper.DispatchesMessages())
         DispatchMessages();
     if (m_temper.Throws())
         Throw();

@@ -40,7 +40,7 @@ public:
 
     // From here on for the operations of the objects.
 
-    // May throw, dispatch messages or lose objects.
+    // May throw or lose objects, and dispatch messages while it saves.
     void Enter(HostileObject& object, std::size_t position);
 
     template <class Interface>

@@ -23,7 +23,7 @@ Temper::Temper(unsigned seed) : m_random(seed)
     m_numbers = Frequency(1000);
     m_counts = Frequency(200);
     m_throws = Frequency(20);
-    m_messages = Frequency(50);
+    m_messages = Frequency(1000);
     m_losses = Frequency(5);
     m_ignored = Frequency(200);
 }
@@ -88,7 +88,7 @@ std::string Temper::Describe() const
     std::ostringstream text;
     text << "in a thousand calls after the first " << m_quietCalls << ": null " << m_nulls << ", another object "
          << m_strangers << ", text " << m_texts << ", number " << m_numbers << ", count " << m_counts << ", exception "
-         << m_throws << ", messages " << m_messages << ", lost objects " << m_losses << ", ignored changes "
-         << m_ignored;
+         << m_throws << ", messages while saving " << m_messages << ", lost objects " << m_losses
+         << ", ignored changes " << m_ignored;
     return text.str();
 }
