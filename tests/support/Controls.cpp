@@ -63,6 +63,11 @@ void ListBox::DoubleClickRow(int row) const
     Op().DoubleClick(*this, PointIn(row));
 }
 
+void ListBox::ClickRowAgain(int row) const
+{
+    Op().ClickAgain(*this, PointIn(row));
+}
+
 void ListBox::RightClickRow(int row) const
 {
     Op().RightClick(*this, PointIn(row));
@@ -125,10 +130,15 @@ void ComboBox::Pick(int row) const
     Click();
     if (!IsDropped())
         throw OperatorFailure("the list of combo box " + std::to_string(Id()) + " did not open");
+    List().ClickRow(row);
+}
+
+ListBox ComboBox::List() const
+{
     COMBOBOXINFO info{};
     info.cbSize = sizeof(info);
     GetComboBoxInfo(Handle(), &info);
-    ListBox(Op(), info.hwndList).ClickRow(row);
+    return ListBox(Op(), info.hwndList);
 }
 
 bool EditField::IsAllSelected() const

@@ -22,6 +22,7 @@ public:
 
     void ClickRow(int row) const;
     void DoubleClickRow(int row) const;
+    void ClickRowAgain(int row) const;
     void RightClickRow(int row) const;
 
 private:
@@ -44,6 +45,8 @@ public:
 
     // Opens the list by the mouse and clicks the row.
     void Pick(int row) const;
+    // The list in place, hidden while it is closed.
+    ListBox List() const;
 };
 
 class EditField : public Window

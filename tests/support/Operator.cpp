@@ -77,6 +77,11 @@ void Operator::Click(const Window& window, POINT at)
 void Operator::DoubleClick(const Window& window, POINT at)
 {
     Click(window, at);
+    ClickAgain(window, at);
+}
+
+void Operator::ClickAgain(const Window& window, POINT at)
+{
     PressAndRelease(window, at, WM_LBUTTONDBLCLK);
 }
 
@@ -113,6 +118,13 @@ void Operator::MoveMouse(const Window& window, POINT at)
 {
     ClientToScreen(window.Handle(), &at);
     MoveMouse(at);
+    Settle();
+}
+
+void Operator::TurnWheel(const Window& window, int notches)
+{
+    RequireReachable(window);
+    Post(window, WM_MOUSEWHEEL, MAKEWPARAM(0, notches * WHEEL_DELTA), 0);
     Settle();
 }
 

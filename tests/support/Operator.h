@@ -45,9 +45,13 @@ public:
 
     void Click(const Window& window, POINT at);
     void DoubleClick(const Window& window, POINT at);
+    // The second half of a double click.
+    void ClickAgain(const Window& window, POINT at);
     void MoveMouse(POINT screen);
     // Moves the mouse there, presses the right button and lets it go.
     void RightClick(const Window& window, POINT at);
+    // Away from the operator for a positive number.
+    void TurnWheel(const Window& window, int notches);
     // To the window that has the focus.
     void Key(int virtualKey, KeyModifiers modifiers = {});
     void TypeCharacters(const std::wstring& text);

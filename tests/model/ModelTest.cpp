@@ -1,0 +1,43 @@
+#include "tests/model/ModelTest.h"
+
+#include "tests/model/MachineDifference.h"
+#include "tests/model/RandomMachine.h"
+#include "tests/support/ThreadLocale.h"
+
+namespace
+{
+constexpr unsigned kChinesePage = 936;
+
+// What makes the thread's code page that of the machine's names.
+LCID LocaleOf(unsigned codePage)
+{
+    return codePage == kChinesePage ? MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED)
+                                    : MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+}
+} // namespace
+
+ModelTest::ModelTest(Operation operation) : m_operation(operation), m_session(GetParam())
+{
+    m_machine = RandomMachine(m_session.chance);
+    m_session.host = [this] { return Machine(); };
+}
+
+void ModelTest::PlayAgainst(EditorModel& model, const Play& play)
+{
+    const ThreadLocale locale(LocaleOf(m_machine.codePage));
+    RunOperation(m_operation, [&](Operator& op) { play(op, m_session); });
+    EXPECT_TRUE(model.HasEnded()) << "the operator never got the editor closed";
+    EXPECT_EQ(FirstDifference(model.Machine(), Machine()), "");
+    EXPECT_EQ(ChangesWith("IHostControl."), model.Saves());
+    if (HasFailure())
+        ADD_FAILURE() << Reproduction();
+}
+
+std::string ModelTest::Reproduction() const
+{
+    const std::string seed = std::to_string(GetParam());
+    const std::string suite = testing::UnitTest::GetInstance()->current_test_info()->test_suite_name();
+    return "seed " + seed + ", the operator's actions:\n" + m_session.diary.Text() +
+           "to see it again: ./test.sh --arch " + (sizeof(void*) == 8 ? "x64" : "x86") + " --seed " + seed +
+           " --filter '" + suite + ".*/" + seed + "'";
+}

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "tests/editors/EditorTest.h"
+#include "tests/model/RandomOperator.h"
+
+// One run of an editor over a random machine: the seed is the test's parameter. Afterwards the host must have the
+// model's machine and the model's save requests, no more and no fewer.
+class ModelTest : public EditorTest, public testing::WithParamInterface<unsigned>
+{
+protected:
+    explicit ModelTest(Operation operation);
+
+    using Play = std::function<void(Operator&, Session&)>;
+    void PlayAgainst(EditorModel& model, const Play& play);
+
+private:
+    std::string Reproduction() const;
+
+    Operation m_operation;
+    Session m_session;
+};
+
+// Seeds as ./test.sh sets them: from the first one on, 10000 in a long run over the three editors.
+#define RUN_WITH_EVERY_SEED(Suite)                                                                                     \
+    INSTANTIATE_TEST_SUITE_P(Seeds, Suite, testing::Range(FirstSeed(), FirstSeed() + RunCount(60, 3334)),              \
+                             testing::PrintToStringParamName())

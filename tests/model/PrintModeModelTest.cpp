@@ -1,0 +1,23 @@
+#include "tests/model/ModelTest.h"
+#include "tests/model/PrintModeOperator.h"
+#include "tests/support/RunLength.h"
+
+namespace
+{
+class RandomPrintModeOperator : public ModelTest
+{
+protected:
+    RandomPrintModeOperator() : ModelTest(&IQuorvane::EditPrintModes) {}
+};
+
+TEST_P(RandomPrintModeOperator, LeavesTheHostAsTheModelHasIt)
+{
+    PrintModeModel model(m_machine);
+    PlayAgainst(model, [&](Operator& op, Session& session) {
+        const PrintModeEditor editor(op, op.ExpectDialog(kEditorCaption));
+        PrintModeOperator(editor, model, session).Work();
+    });
+}
+
+RUN_WITH_EVERY_SEED(RandomPrintModeOperator);
+} // namespace
