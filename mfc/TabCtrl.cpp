@@ -155,13 +155,17 @@ bool CMFCTabCtrl::MoveByTabKey(const MSG& msg)
     return true;
 }
 
-// A refused value must be asked for once, so the page is left before the strip itself takes the focus.
+// A refused value must be asked for once, so the page is left before the strip itself takes the focus. The strip is
+// switched here: after an arrow key some systems take the tab left behind for a pressed button, and a click on any
+// other then only lets that go.
 LRESULT CMFCTabCtrl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
     const int nTab = TabAt(lParam);
-    if (nTab >= 0 && nTab != m_nActive && !LeaveActivePage())
-        return 0;
-    return Default();
+    if (nTab < 0 || nTab == m_nActive)
+        return Default();
+    if (SetActiveTab(nTab))
+        SetFocus();
+    return 0;
 }
 
 // Some systems mark the tab even when the page was not left.

@@ -225,6 +225,16 @@ TEST_F(TabCtrl, ArrowsSwitchWhenTheStripHasTheFocus)
     ExpectOnlyPageVisible(0);
 }
 
+TEST_F(TabCtrl, ClickAfterAnArrowSwitchesToo)
+{
+    ClickTab(2);
+    PressKey(VK_LEFT);
+    ExpectOnlyPageVisible(1);
+    ClickTab(0);
+    ExpectOnlyPageVisible(0);
+    EXPECT_EQ(::GetFocus(), tabs.m_hWnd);
+}
+
 TEST_F(TabCtrl, TabWalksThroughTheStripAndTheActivePageOnly)
 {
     tabs.SetActiveTab(1);
