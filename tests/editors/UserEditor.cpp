@@ -7,10 +7,15 @@ UserEditor::UserEditor(Operator& op, const Window& dialog)
 {
 }
 
-// Its caption is the language file's, so it is known by a label that no other dialog has.
 AddUserSchemeDialog UserEditor::OpenAddScheme() const
 {
     Press(IDC_BTN_ADD_SCHEME);
+    return ExpectAddScheme();
+}
+
+// Its caption is the language file's, so it is known by a label that no other dialog has.
+AddUserSchemeDialog UserEditor::ExpectAddScheme() const
+{
     return AddUserSchemeDialog(Op().ExpectDialogWith(
         "the dialog for a new user scheme", [](const Window& dialog) { return dialog.Has(IDC_STATIC_SCHEME_NAME); }));
 }

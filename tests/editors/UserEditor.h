@@ -23,6 +23,7 @@ public:
     UserEditor(Operator& op, const Window& dialog);
 
     AddUserSchemeDialog OpenAddScheme() const;
+    AddUserSchemeDialog ExpectAddScheme() const;
     void Confirm(const AddUserSchemeDialog& dialog, int buttonId = IDOK) const { Confirm(dialog.Dialog(), buttonId); }
     using EditorWindow::Confirm;
     // A scheme of the given name, made from the source that the dialog proposes.

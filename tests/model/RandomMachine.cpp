@@ -6,7 +6,9 @@ namespace
 {
 constexpr unsigned kWestern = 1252;
 constexpr unsigned kChinese = 936;
+constexpr std::uint32_t kNoLayout = 7;
 
+const std::vector<int> kMaterialIds = {0, 1, 2, 5, 127, 128, 255, 256, 65535};
 const std::vector<std::string> kPlainNames = {"Fast", "Fine", "720X600", "A", "", "No", "Poster 1", "[720 X 720]"};
 const std::vector<std::string> kWesternNames = {"Entw\xFCrfe", "\xC9tiquette", "50 \x80"};
 const std::vector<std::string> kChineseNames = {"\xB4\xF2\xD3\xA1", "\xC5\xE4\xD6\xC3 1", "\xB7\xBD\xB0\xB8"};
@@ -42,6 +44,17 @@ private:
     // Mostly below the limit, else any.
     int Mostly(int limit, int beyond) { return m_chance.OneIn(6) ? m_chance.Below(beyond) : m_chance.Below(limit); }
     std::uint8_t MostlyByte(int limit) { return static_cast<std::uint8_t>(Mostly(limit, 256)); }
+
+    // An id that none of the items has.
+    template <class Item>
+    int Another(const std::vector<Item>& items, const std::vector<int>& ids)
+    {
+        int id = m_chance.OneOf(ids);
+        const auto isTaken = [&](const Item& item) { return static_cast<int>(item.id) == id; };
+        while (std::any_of(items.begin(), items.end(), isTaken))
+            id = m_chance.OneOf(ids);
+        return id;
+    }
 
     std::string Name()
     {
@@ -159,7 +172,7 @@ private:
             m_machine.inkGroups.push_back({Name(), id, MostlyByte(32), Channels(5)});
         });
         Repeat(Count(3), [&] {
-            const auto id = static_cast<std::uint32_t>(m_chance.OneOf<int>({0, 40, 41, 255, 296}));
+            const auto id = static_cast<std::uint32_t>(Another(m_machine.layouts, {0, 40, 41, 255, 296}));
             m_machine.layouts.push_back({Name(), id, Channels(14)});
         });
         m_machine.activeSetup.id = 5;
@@ -183,7 +196,7 @@ private:
         Repeat(Count(4), [&] { m_machine.channelSetups.push_back({Name(), Fits()}); });
         Repeat(Count(4), [&] {
             m_machine.materials.push_back(
-                {Name(), static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 1, 2, 5, 127, 128, 255, 256, 65535}))});
+                {Name(), static_cast<std::uint16_t>(Another(m_machine.materials, kMaterialIds))});
         });
         MakeParamTable(1015, {m_chance.Between(-1, 4)});
         MakeParamTable(2055, EclosionTypes());
@@ -195,7 +208,11 @@ private:
         refhost::HeadLayout head;
         head.name = Name();
         head.id = static_cast<std::uint16_t>(m_chance.OneOf<int>({10, 11, 12, 300}));
-        head.layoutId = m_machine.layouts.empty() ? 7 : m_chance.OneOf(m_machine.layouts).id;
+        head.layoutId = m_machine.layouts.empty() ? kNoLayout : m_chance.OneOf(m_machine.layouts).id;
+        // A list of heads in which two have the same id tells nobody which of them is meant.
+        for (const refhost::HeadLayout& other : m_machine.headLayouts)
+            if (other.id == head.id && other.layoutId == head.layoutId)
+                head.layoutId = kNoLayout;
         Repeat(m_chance.Below(5), [&] { head.dataModes.push_back(DataModeName()); });
         return head;
     }

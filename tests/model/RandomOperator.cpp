@@ -76,12 +76,12 @@ void RandomOperator::Listen()
     }
 }
 
-// The button that was pressed on a list was let go over the prompt; the list still waits for it.
+// The mouse button was let go over the prompt; the control that it was pressed on still waits for that.
 void RandomOperator::LetGo()
 {
     Op().OnUi([] {
         if (const HWND waiting = GetCapture())
-            PostMessageW(waiting, WM_LBUTTONUP, 0, 0);
+            PostMessageW(waiting, WM_LBUTTONUP, 0, MAKELPARAM(-1, -1));
     });
     Op().Settle();
 }
@@ -91,6 +91,14 @@ void RandomOperator::Hear()
     const std::vector<Notice> notices = m_session.tap.Take();
     for (const Notice& notice : notices)
         if (!m_model.HasEnded()) // a dialog that goes deals with nothing any more
+            m_model.Hear(notice);
+}
+
+void RandomOperator::HearAllButTexts()
+{
+    const std::vector<Notice> notices = m_session.tap.Take();
+    for (const Notice& notice : notices)
+        if (notice.code != EN_CHANGE)
             m_model.Hear(notice);
 }
 
@@ -104,7 +112,7 @@ void RandomOperator::Compare()
     });
     if (!difference.empty())
         throw OperatorFailure(difference);
-    if (!m_editor.Dialog().IsEnabled())
+    if (m_model.OpenDialog() == 0 && !m_editor.Dialog().IsEnabled())
         throw OperatorFailure("something is open that was not to be expected");
 }
 

@@ -28,6 +28,10 @@ protected:
     void Do(const std::string& what, const std::function<void()>& gesture);
     // What the dialogs have to say is heard and their prompts are answered; nothing is compared.
     void Listen();
+    // The texts of fields have changed by the dialogs' own doing.
+    void HearAllButTexts();
+    void Compare();
+    bool HasEnded() const { return m_model.HasEnded(); }
 
     // Tells the diary only.
     void Note(const std::string& what) { m_session.diary.Write(what); }
@@ -57,7 +61,6 @@ protected:
 private:
     void LetGo();
     void Hear();
-    void Compare();
     std::string DisplayDifference() const;
     std::wstring Found(const Shown& shown) const;
 

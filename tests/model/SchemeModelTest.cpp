@@ -1,0 +1,46 @@
+#include "tests/model/FactoryOperator.h"
+#include "tests/model/ModelTest.h"
+#include "tests/model/UserOperator.h"
+#include "tests/support/RunLength.h"
+
+namespace
+{
+bool IsEditor(const Window& dialog)
+{
+    return dialog.Has(IDC_LIST_SCHEME);
+}
+
+class RandomFactoryOperator : public ModelTest
+{
+protected:
+    RandomFactoryOperator() : ModelTest(&IQuorvane::EditFactorySchemes) {}
+};
+
+TEST_P(RandomFactoryOperator, LeavesTheHostAsTheModelHasIt)
+{
+    FactoryModel model(m_machine);
+    PlayAgainst(model, [&](Operator& op, Session& session) {
+        const FactoryEditor editor(op, op.ExpectDialogWith("the factory editor", &IsEditor));
+        FactoryOperator(editor, model, session).Work();
+    });
+}
+
+RUN_WITH_EVERY_SEED(RandomFactoryOperator);
+
+class RandomUserOperator : public ModelTest
+{
+protected:
+    RandomUserOperator() : ModelTest(&IQuorvane::EditUserSchemes) {}
+};
+
+TEST_P(RandomUserOperator, LeavesTheHostAsTheModelHasIt)
+{
+    UserModel model(m_machine);
+    PlayAgainst(model, [&](Operator& op, Session& session) {
+        const UserEditor editor(op, op.ExpectDialogWith("the user editor", &IsEditor));
+        UserOperator(editor, model, session).Work();
+    });
+}
+
+RUN_WITH_EVERY_SEED(RandomUserOperator);
+} // namespace
