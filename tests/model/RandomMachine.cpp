@@ -226,7 +226,7 @@ private:
 
     std::vector<std::int32_t> EclosionTypes()
     {
-        std::vector<std::int32_t> entries(static_cast<std::size_t>(m_chance.OneOf<int>({0, 3, 20, 22})));
+        std::vector<std::int32_t> entries(static_cast<std::size_t>(m_chance.OneOf<int>({0, 3, 20, 20, 22})));
         for (std::int32_t& entry : entries)
             entry = m_chance.Below(3) - 1;
         if (entries.size() > 19)

@@ -213,7 +213,13 @@ void RandomOperator::UseCombo(const ComboBox& combo)
         return;
     if (Luck().OneIn(4))
         return Do("turns the wheel over combo box " + Name(combo), [&] { Op().TurnWheel(combo, Either(1, -1)); });
-    const int row = Luck().Below(combo.RowCount());
+    PickRow(combo, Luck().Below(combo.RowCount()));
+}
+
+void RandomOperator::PickRow(const ComboBox& combo, int row)
+{
+    if (!CanUse(combo) || row < 0)
+        return;
     Do("opens combo box " + Name(combo), [&] { combo.Click(); });
     if (combo.IsDropped())
         Do("clicks row " + std::to_string(row), [&] { combo.List().ClickRow(row); });

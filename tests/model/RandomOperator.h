@@ -46,6 +46,7 @@ protected:
     void UseList(const ListBox& list);
     void DoubleClickRow(const ListBox& list);
     void UseCombo(const ComboBox& combo);
+    void PickRow(const ComboBox& combo, int row);
     void Type(const EditField& field, const std::wstring& text);
     void PressAnyKey();
     void LeaveEditor();

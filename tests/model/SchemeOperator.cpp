@@ -2,6 +2,7 @@
 
 namespace
 {
+constexpr int kCustomType = 19;
 const Texts kNames = {L"", L"Poster", L"  padded  ", L"\u6253\u5370", L"\u00C9t\u00E9", std::wstring(70, L'x')};
 const Texts kRanges = {L"0", L"7", L"200", L"201", L"9999999999", L"", L"12"};
 const Texts kOffsets = {L"0", L"5", L"65535", L"65537", L"-1", L" 12 ", L"99999999999", L"x", L""};
@@ -103,11 +104,16 @@ void SchemeOperator::UseControls(SchemePage page)
 void SchemeOperator::UseEclosionPage()
 {
     constexpr SchemePage kPage = SchemePage::Eclosion;
-    switch (Luck().Below(5))
+    switch (Luck().Below(6))
     {
     case 0:
         return UseSlider(m_editor.Slider(kPage, IDC_SLIDER_CUSTOM_RANGE));
     case 1:
+    {
+        const ComboBox types = m_editor.Combo(kPage, IDC_CMB_ELC_TYPE);
+        return PickRow(types, types.RowWithData(kCustomType));
+    }
+    case 2:
         return Type(m_editor.Edit(kPage, IDC_EDIT_RANGE_SS + Luck().Below(4)), Luck().OneOf(kRanges));
     default:
         return UseCombo(m_editor.Combo(kPage, Luck().OneOf<int>({IDC_CMB_ELC_TYPE, IDC_CMB_ELC_TYPE, IDC_CMB_ELC_LEVEL,
@@ -175,7 +181,7 @@ void SchemeOperator::DesignEclosion()
                                                 [](const Window& window) { return window.Has(IDC_SLIDER_ECLO_RANGE); });
     Watch(dialog, IDD_CUSTOM_ECLOSION);
     Compare();
-    for (int left = Luck().Below(10); left > 0 && m_model.OpenDialog() != 0; --left)
+    for (int left = Luck().Between(2, 12); left > 0 && m_model.OpenDialog() != 0; --left)
         ActOnEclosion(dialog);
     if (m_model.OpenDialog() != 0)
     {
@@ -194,8 +200,8 @@ void SchemeOperator::ActOnEclosion(const Window& dialog)
     static const std::vector<int> kSliders = {IDC_SLIDER_ECLO_RANGE, IDC_SLIDER_ELEMENT1_W, IDC_SLIDER_ELEMENT1_H,
                                               IDC_SLIDER_ELEMENT2_W, IDC_SLIDER_ELEMENT2_H};
     static const std::vector<int> kButtons = {IDC_BTN_ADD_ECL_MODE, IDC_BTN_DEL_ECL_MODE, IDC_BTN_ADD_ELEMENT,
-                                              IDC_BTN_DEL_ELEMENT,  IDC_RADIO_MODE1,      IDC_RADIO_MODE2,
-                                              IDC_RADIO_MODE3};
+                                              IDC_BTN_DEL_ELEMENT,  IDC_BTN_DEL_ELEMENT,  IDC_RADIO_MODE1,
+                                              IDC_RADIO_MODE2,      IDC_RADIO_MODE3};
     const bool isSlider = Luck().OneIn(2);
     const int id = Luck().OneOf(isSlider ? kSliders : kButtons);
     const Window control = dialog.Control(id);
