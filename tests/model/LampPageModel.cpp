@@ -10,13 +10,14 @@ LampPageModel::LampPageModel(ShownScheme& scheme)
 {
 }
 
+// A flag is 0 or 1. The third state of a check box, 2, shows as ticked where a box has two; any other as clear.
 void LampPageModel::Load()
 {
     const refhost::SchemeValues* const values = Scheme().Values();
     if (!values)
         return;
     for (Lamp& lamp : m_lamps)
-        lamp.isOn = values->*lamp.stored == 1;
+        lamp.isOn = values->*lamp.stored == BST_CHECKED || values->*lamp.stored == BST_INDETERMINATE;
 }
 
 bool LampPageModel::Save()

@@ -249,7 +249,7 @@ private:
             eclosion.currentMode = m_chance.Below(3);
             eclosion.locked = m_chance.OneIn(2);
             eclosion.range = m_chance.Below(201);
-            Repeat(m_chance.Below(4), [&] { eclosion.modes.push_back(EclosionMode()); });
+            Repeat(m_chance.OneIn(2) ? 3 : m_chance.Below(4), [&] { eclosion.modes.push_back(EclosionMode()); });
             set.definitions.push_back(eclosion);
         });
     }
@@ -257,7 +257,7 @@ private:
     refhost::EclosionMode EclosionMode()
     {
         refhost::EclosionMode mode;
-        Repeat(m_chance.Below(3), [&] { mode.elements.push_back({Size(), Size()}); });
+        Repeat(m_chance.OneIn(2) ? 2 : m_chance.Below(3), [&] { mode.elements.push_back({Size(), Size()}); });
         return mode;
     }
 
