@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-FactoryOperator::FactoryOperator(const FactoryEditor& editor, FactoryModel& model, Session& session)
-    : SchemeOperator(editor, model, session, IDD_SCHEME_FACTORY), m_editor(editor), m_model(model)
+FactoryOperator::FactoryOperator(const FactoryEditor& editor, FactoryModel& model, SeededRun& run)
+    : SchemeOperator(editor, model, run, IDD_SCHEME_FACTORY), m_editor(editor), m_model(model)
 {
 }
 

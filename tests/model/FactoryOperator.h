@@ -7,7 +7,7 @@
 class FactoryOperator : public SchemeOperator
 {
 public:
-    FactoryOperator(const FactoryEditor& editor, FactoryModel& model, Session& session);
+    FactoryOperator(const FactoryEditor& editor, FactoryModel& model, SeededRun& run);
 
 protected:
     void ActBesides() override;

@@ -16,16 +16,16 @@ LCID LocaleOf(unsigned codePage)
 }
 } // namespace
 
-ModelTest::ModelTest(Operation operation) : m_operation(operation), m_session(GetParam())
+ModelTest::ModelTest(Operation operation) : m_operation(operation), m_run(GetParam())
 {
-    m_machine = RandomMachine(m_session.chance);
-    m_session.host = [this] { return Machine(); };
+    m_machine = RandomMachine(m_run.chance);
+    m_run.host = [this] { return Machine(); };
 }
 
 void ModelTest::PlayAgainst(EditorModel& model, const Play& play)
 {
     const ThreadLocale locale(LocaleOf(m_machine.codePage));
-    RunOperation(m_operation, [&](Operator& op) { play(op, m_session); });
+    RunOperation(m_operation, [&](Operator& op) { play(op, m_run); });
     EXPECT_TRUE(model.HasEnded()) << "the operator never got the editor closed";
     EXPECT_EQ(FirstDifference(model.Machine(), Machine()), "");
     EXPECT_EQ(ChangesWith("IHostControl."), model.Saves());
@@ -37,7 +37,6 @@ std::string ModelTest::Reproduction() const
 {
     const std::string seed = std::to_string(GetParam());
     const std::string suite = testing::UnitTest::GetInstance()->current_test_info()->test_suite_name();
-    return "seed " + seed + ", the operator's actions:\n" + m_session.diary.Text() +
-           "to see it again: ./test.sh --arch " + (sizeof(void*) == 8 ? "x64" : "x86") + " --seed " + seed +
-           " --filter '" + suite + ".*/" + seed + "'";
+    return "seed " + seed + ", the operator's actions:\n" + m_run.diary.Text() + "to see it again: ./test.sh --arch " +
+           (sizeof(void*) == 8 ? "x64" : "x86") + " --seed " + seed + " --filter '" + suite + ".*/" + seed + "'";
 }

@@ -10,14 +10,14 @@ class ModelTest : public EditorTest, public testing::WithParamInterface<unsigned
 protected:
     explicit ModelTest(Operation operation);
 
-    using Play = std::function<void(Operator&, Session&)>;
+    using Play = std::function<void(Operator&, SeededRun&)>;
     void PlayAgainst(EditorModel& model, const Play& play);
 
 private:
     std::string Reproduction() const;
 
     Operation m_operation;
-    Session m_session;
+    SeededRun m_run;
 };
 
 // Seeds as ./test.sh sets them: from the first one on, 10000 in a long run over the three editors.

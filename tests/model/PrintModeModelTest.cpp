@@ -13,9 +13,9 @@ protected:
 TEST_P(RandomPrintModeOperator, LeavesTheHostAsTheModelHasIt)
 {
     PrintModeModel model(m_machine);
-    PlayAgainst(model, [&](Operator& op, Session& session) {
+    PlayAgainst(model, [&](Operator& op, SeededRun& run) {
         const PrintModeEditor editor(op, op.ExpectDialog(kEditorCaption));
-        PrintModeOperator(editor, model, session).Work();
+        PrintModeOperator(editor, model, run).Work();
     });
 }
 

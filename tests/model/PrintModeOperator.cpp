@@ -27,8 +27,8 @@ void RequireSame(const std::wstring& found, const std::wstring& wanted)
 }
 } // namespace
 
-PrintModeOperator::PrintModeOperator(const PrintModeEditor& editor, PrintModeModel& model, Session& session)
-    : RandomOperator(editor, model, session), m_editor(editor), m_model(model)
+PrintModeOperator::PrintModeOperator(const PrintModeEditor& editor, PrintModeModel& model, SeededRun& run)
+    : RandomOperator(editor, model, run), m_editor(editor), m_model(model)
 {
     Watch(editor.Dialog(), IDD_PRINT_MODE);
     Watch(editor.CommonPage(), IDD_PRINT_MODE_CMMN);

@@ -7,7 +7,7 @@
 class PrintModeOperator : public RandomOperator
 {
 public:
-    PrintModeOperator(const PrintModeEditor& editor, PrintModeModel& model, Session& session);
+    PrintModeOperator(const PrintModeEditor& editor, PrintModeModel& model, SeededRun& run);
 
 protected:
     void Act() override;

@@ -29,15 +29,15 @@ int SelectedRow(const Window& control)
 }
 } // namespace
 
-RandomOperator::RandomOperator(const EditorWindow& editor, EditorModel& model, Session& session)
-    : m_editor(editor), m_model(model), m_session(session)
+RandomOperator::RandomOperator(const EditorWindow& editor, EditorModel& model, SeededRun& run)
+    : m_editor(editor), m_model(model), m_run(run)
 {
 }
 
 void RandomOperator::Watch(const Window& dialog, int resourceId)
 {
     m_dialogs[resourceId] = dialog.Handle();
-    Op().OnUi([&] { m_session.tap.Attach(dialog.Handle(), resourceId); });
+    Op().OnUi([&] { m_run.tap.Attach(dialog.Handle(), resourceId); });
 }
 
 void RandomOperator::Work()
@@ -88,7 +88,7 @@ void RandomOperator::LetGo()
 
 void RandomOperator::Hear()
 {
-    const std::vector<Notice> notices = m_session.tap.Take();
+    const std::vector<Notice> notices = m_run.tap.Take();
     for (const Notice& notice : notices)
         if (!m_model.HasEnded()) // a dialog that goes deals with nothing any more
             m_model.Hear(notice);
@@ -96,7 +96,7 @@ void RandomOperator::Hear()
 
 void RandomOperator::HearAllButTexts()
 {
-    const std::vector<Notice> notices = m_session.tap.Take();
+    const std::vector<Notice> notices = m_run.tap.Take();
     for (const Notice& notice : notices)
         if (notice.code != EN_CHANGE)
             m_model.Hear(notice);
@@ -106,7 +106,7 @@ void RandomOperator::Compare()
 {
     std::string difference;
     Op().OnUi([&] {
-        difference = FirstDifference(m_model.Machine(), m_session.host());
+        difference = FirstDifference(m_model.Machine(), m_run.host());
         if (difference.empty())
             difference = DisplayDifference();
     });

@@ -3,7 +3,7 @@
 #include "tests/editors/EditorWindow.h"
 #include "tests/model/ConfigFields.h"
 #include "tests/model/EditorModel.h"
-#include "tests/model/Session.h"
+#include "tests/model/SeededRun.h"
 
 #include <map>
 
@@ -12,7 +12,7 @@
 class RandomOperator
 {
 public:
-    RandomOperator(const EditorWindow& editor, EditorModel& model, Session& session);
+    RandomOperator(const EditorWindow& editor, EditorModel& model, SeededRun& run);
     virtual ~RandomOperator() = default;
 
     // Until the editor has closed.
@@ -34,7 +34,7 @@ protected:
     bool HasEnded() const { return m_model.HasEnded(); }
 
     // Tells the diary only.
-    void Note(const std::string& what) { m_session.diary.Write(what); }
+    void Note(const std::string& what) { m_run.diary.Write(what); }
 
     static ConfigFields FieldsOf(const ConfigDialog& dialog);
     void RequireFields(const ConfigDialog& dialog, const ConfigFields& wanted) const;
@@ -52,7 +52,7 @@ protected:
     void LeaveEditor();
 
     Operator& Op() { return m_editor.Op(); }
-    Chance& Luck() { return m_session.chance; }
+    Chance& Luck() { return m_run.chance; }
     template <class T>
     T Either(T one, T other)
     {
@@ -67,6 +67,6 @@ private:
 
     const EditorWindow& m_editor;
     EditorModel& m_model;
-    Session& m_session;
+    SeededRun& m_run;
     std::map<int, HWND> m_dialogs;
 };

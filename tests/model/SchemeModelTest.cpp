@@ -19,9 +19,9 @@ protected:
 TEST_P(RandomFactoryOperator, LeavesTheHostAsTheModelHasIt)
 {
     FactoryModel model(m_machine);
-    PlayAgainst(model, [&](Operator& op, Session& session) {
+    PlayAgainst(model, [&](Operator& op, SeededRun& run) {
         const FactoryEditor editor(op, op.ExpectDialogWith("the factory editor", &IsEditor));
-        FactoryOperator(editor, model, session).Work();
+        FactoryOperator(editor, model, run).Work();
     });
 }
 
@@ -36,9 +36,9 @@ protected:
 TEST_P(RandomUserOperator, LeavesTheHostAsTheModelHasIt)
 {
     UserModel model(m_machine);
-    PlayAgainst(model, [&](Operator& op, Session& session) {
+    PlayAgainst(model, [&](Operator& op, SeededRun& run) {
         const UserEditor editor(op, op.ExpectDialogWith("the user editor", &IsEditor));
-        UserOperator(editor, model, session).Work();
+        UserOperator(editor, model, run).Work();
     });
 }
 

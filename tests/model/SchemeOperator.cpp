@@ -30,8 +30,8 @@ int TemplateOf(SchemePage page)
 }
 } // namespace
 
-SchemeOperator::SchemeOperator(const SchemeEditor& editor, SchemeEditorModel& model, Session& session, int resourceId)
-    : RandomOperator(editor, model, session), m_editor(editor), m_model(model)
+SchemeOperator::SchemeOperator(const SchemeEditor& editor, SchemeEditorModel& model, SeededRun& run, int resourceId)
+    : RandomOperator(editor, model, run), m_editor(editor), m_model(model)
 {
     Watch(editor.Dialog(), resourceId);
     for (SchemePage page : editor.Pages())

@@ -8,7 +8,7 @@
 class SchemeOperator : public RandomOperator
 {
 protected:
-    SchemeOperator(const SchemeEditor& editor, SchemeEditorModel& model, Session& session, int resourceId);
+    SchemeOperator(const SchemeEditor& editor, SchemeEditorModel& model, SeededRun& run, int resourceId);
 
     void Act() override;
     void WorkOn(int dialog) override;

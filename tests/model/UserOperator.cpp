@@ -5,8 +5,8 @@ namespace
 const Texts kNames = {L"", L"Mine", L"  padded  ", L"\u6211\u7684", std::wstring(70, L'x')};
 }
 
-UserOperator::UserOperator(const UserEditor& editor, UserModel& model, Session& session)
-    : SchemeOperator(editor, model, session, IDD_SCHEME_USER), m_editor(editor), m_model(model)
+UserOperator::UserOperator(const UserEditor& editor, UserModel& model, SeededRun& run)
+    : SchemeOperator(editor, model, run, IDD_SCHEME_USER), m_editor(editor), m_model(model)
 {
 }
 

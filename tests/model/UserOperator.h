@@ -7,7 +7,7 @@
 class UserOperator : public SchemeOperator
 {
 public:
-    UserOperator(const UserEditor& editor, UserModel& model, Session& session);
+    UserOperator(const UserEditor& editor, UserModel& model, SeededRun& run);
 
 protected:
     void ActBesides() override;

@@ -8,9 +8,9 @@
 #include <functional>
 
 // What one run needs besides the editor and the model. It outlives the editor's windows.
-struct Session
+struct SeededRun
 {
-    explicit Session(unsigned seed) : chance(seed) {}
+    explicit SeededRun(unsigned seed) : chance(seed) {}
 
     Chance chance;
     Diary diary;
