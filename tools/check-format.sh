@@ -3,7 +3,7 @@
 . "$(dirname "$0")/common.sh"
 
 cd "$project"
-mapfile -t sources < <(find host mfc dialogs frame refhost tests tools -name '*.cpp' -o -name '*.h' | sort)
+mapfile -t sources < <(find host mfc dialogs frame refhost tests tools bench -name '*.cpp' -o -name '*.h' | sort)
 if [ "${1:-}" = --mend ]; then
     clang-format -i "${sources[@]}"
 elif ! clang-format --dry-run -Werror "${sources[@]}"; then

@@ -1,0 +1,84 @@
+#!/usr/bin/env bash
+# Sets up what is missing, builds, and measures the editors under Wine against their floor. See usage.
+. "$(dirname "$0")/tools/common.sh"
+. "$project/tools/screen.sh"
+. "$project/tools/x86-root.sh"
+
+usage() {
+    cat <<'TEXT'
+Usage: ./bench.sh [--arch x64|x86] [--only TEXT] [--rounds N]
+Sets up what is missing, builds, and measures the editors on x64 and x86 under Wine against a baseline: bare dialogs
+with the same windows and rows. Prints tables and leaves them in build/bench, with all figures as JSON.
+  --arch x64|x86   one architecture only
+  --only TEXT      only the editors' cases whose name contains the text
+  --rounds N       how often each case is measured (usually 15 times)
+  --help           this text
+Environment: QUORVANE_X86_ROOT names a folder to keep the i386 system in (default: build/x86-root).
+TEXT
+}
+
+refuse() {
+    usage >&2
+    exit 2
+}
+
+arches=(x64 x86) only='' rounds=15
+parse_options() {
+    while [ $# -gt 0 ]; do
+        case "$1 ${2:-}" in
+        "--arch x64" | "--arch x86") arches=("$2") && shift ;;
+        "--only "?*) only=$2 && shift ;;
+        "--rounds "[1-9]*) rounds=$2 && shift ;;
+        "--help "*) usage && exit ;;
+        *) refuse ;;
+        esac
+        shift
+    done
+}
+
+measures_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
+
+install_packages() {
+    local packages=("${x64_packages[@]}")
+    ! measures_x86 || packages+=(g++-mingw-w64-i686-posix)
+    ! measures_x86 || system_has_wine32 || packages+=(debootstrap)
+    install_missing "${packages[@]}"
+}
+
+# One after the other: two at once would measure each other.
+measure() {
+    local arch=$1
+    start_screen
+    trap stop_screen EXIT
+    if [ "$arch" = x86 ] && ! system_has_wine32; then
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-bench.sh x86 "$rounds" "$only"
+    else
+        "$project/tools/run-bench.sh" "$arch" "$rounds" "$only"
+    fi
+    stop_screen
+    trap - EXIT
+}
+
+machine_kind() {
+    printf '%s cores, %s MiB of memory, %s\n\n' "$(nproc)" "$(free -m | awk '$1 == "Mem:" { print $2 }')" \
+        "$(wine --version 2>/dev/null)"
+}
+
+parse_options "$@"
+install_packages
+mkdir -p "$build/bench"
+for arch in "${arches[@]}"; do
+    build_preset "$arch" quorvane_bench
+done
+if measures_x86 && ! x86_prepare >"$build/x86-skipped"; then
+    say "Skipped: x86, because $(cat "$build/x86-skipped")"
+    arches=("${arches[@]/x86/}")
+fi
+for arch in ${arches[*]}; do
+    say "Measuring $arch"
+    measure "$arch"
+done
+machine_kind
+for arch in ${arches[*]}; do
+    cat "$build/bench/$arch.md"
+done

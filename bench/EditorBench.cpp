@@ -1,0 +1,134 @@
+#include "bench/EditorBench.h"
+
+#include "refhost/Host.h"
+
+#include <array>
+#include <memory>
+
+namespace
+{
+constexpr int kChangesPerRun = 8;
+
+// Adds up what is taken between its starts and stops.
+class ProcessorShare
+{
+public:
+    void Start() { m_start = ProcessorTime(); }
+    void Stop() { m_sum += ProcessorTime() - m_start; }
+    double Per(int count) const { return m_sum / count; }
+
+private:
+    double m_start = 0;
+    double m_sum = 0;
+};
+
+int Row(HWND list, int row)
+{
+    return row >= 0 ? row : static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)) + row;
+}
+
+// As a list box tells of a row that was clicked.
+void Select(HWND dialog, int listId, int row)
+{
+    const HWND list = GetDlgItem(dialog, listId);
+    SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(Row(list, row)), 0);
+    SendMessageW(dialog, WM_COMMAND, static_cast<WPARAM>(MAKELONG(listId, LBN_SELCHANGE)),
+                 reinterpret_cast<LPARAM>(list));
+}
+
+// Steps that make changes one after another and time each until the next step.
+std::vector<Stage::Step> TimedChanges(const std::function<void(HWND, int)>& change, std::vector<double>& times)
+{
+    std::vector<Stage::Step> steps;
+    const auto start = std::make_shared<double>(0);
+    for (int i = 0; i < kChangesPerRun; ++i)
+        steps.push_back([=, &times](HWND dialog) {
+            if (i > 0)
+                times.push_back(Now() - *start);
+            *start = Now();
+            change(dialog, i);
+        });
+    steps.push_back([=, &times](HWND) { times.push_back(Now() - *start); });
+    return steps;
+}
+} // namespace
+
+void EditorBench::RunEditor(const EditorKind& kind, const refhost::Machine& machine,
+                            const std::vector<Stage::Step>& steps)
+{
+    refhost::Host host(machine);
+    host.Log().SetLevel(refhost::CallLog::Level::Nothing);
+    m_stage.Run([&] { (m_editors.*kind.operation)(host.Data(), host.Control(), m_languageDir.c_str()); }, steps);
+}
+
+Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
+                                     int rounds)
+{
+    EditorState state;
+    RunEditor(kind, machine, {[&](HWND dialog) { state = ReadEditor(kind, dialog); }});
+    FloorEditor floor(m_library, kind, state);
+    refhost::Host host(machine);
+    host.Log().SetLevel(refhost::CallLog::Level::Nothing);
+    Comparison comparison{name};
+    ProcessorShare editorShare, floorShare;
+    const auto time = [&](ProcessorShare& share, const std::function<void()>& modal) {
+        share.Start();
+        const double start = Now();
+        m_stage.Run(modal, {});
+        const double end = Now();
+        share.Stop();
+        return end - start;
+    };
+    for (int round = 0; round < rounds; ++round)
+    {
+        const double floorTime = time(floorShare, [&] { floor.Run(m_stage.Owner()); });
+        const double editorTime =
+            time(editorShare, [&] { (m_editors.*kind.operation)(host.Data(), host.Control(), m_languageDir.c_str()); });
+        comparison.Add(editorTime, floorTime);
+    }
+    comparison.subjectProcessor = editorShare.Per(rounds);
+    comparison.baselineProcessor = floorShare.Per(rounds);
+    return comparison;
+}
+
+Comparison EditorBench::Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
+                               const Selection& selection, int rounds)
+{
+    const auto select = [&](HWND dialog, int change) {
+        Select(dialog, selection.listId, selection.rows[static_cast<std::size_t>(change) % 2]);
+    };
+    std::array<EditorState, 2> states;
+    RunEditor(kind, machine,
+              {[&](HWND dialog) { select(dialog, 0); }, [&](HWND dialog) { select(dialog, 1); },
+               [&](HWND dialog) {
+                   select(dialog, 0);
+                   states[0] = ReadEditor(kind, dialog);
+               },
+               [&](HWND dialog) {
+                   select(dialog, 1);
+                   states[1] = ReadEditor(kind, dialog);
+               }});
+    FloorEditor floor(m_library, kind, states[1]);
+    const FloorChange changes[] = {{kind, states[1], states[0], selection.rebuilds},
+                                   {kind, states[0], states[1], selection.rebuilds}};
+    const auto changeFloor = [&](HWND dialog, int change) {
+        const HWND list = GetDlgItem(dialog, selection.listId);
+        const int row = selection.rows[static_cast<std::size_t>(change) % 2];
+        SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(Row(list, row)), 0);
+        floor.Apply(changes[change % 2]);
+    };
+    Comparison comparison{name};
+    ProcessorShare editorShare, floorShare;
+    for (int round = 0; round < rounds; ++round)
+    {
+        std::vector<double> editorTimes, floorTimes;
+        std::vector<Stage::Step> floorSteps = TimedChanges(changeFloor, floorTimes);
+        std::vector<Stage::Step> editorSteps = TimedChanges(select, editorTimes);
+        editorSteps.insert(editorSteps.begin(), [&](HWND dialog) { select(dialog, 1); });
+        m_stage.Run([&] { floor.Run(m_stage.Owner()); }, floorSteps);
+        RunEditor(kind, machine, editorSteps);
+        for (std::size_t i = 0; i < editorTimes.size(); ++i)
+            comparison.Add(editorTimes[i], floorTimes[i]);
+    }
+    return comparison;
+}

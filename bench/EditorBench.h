@@ -1,0 +1,39 @@
+#pragma once
+
+#include "bench/EditorKind.h"
+#include "bench/FloorEditor.h"
+#include "bench/Report.h"
+#include "bench/Stage.h"
+#include "refhost/Machine.h"
+
+// Measures editors against their floor, which learns from the editor itself what it must show.
+class EditorBench
+{
+public:
+    EditorBench(Stage& stage, HMODULE library, IQuorvane& editors, const std::wstring& languageDir)
+        : m_stage(stage), m_library(library), m_editors(editors), m_languageDir(languageDir)
+    {
+    }
+
+    // From the call to the return, the editor being cancelled as soon as it has come to rest.
+    Comparison OpenAndClose(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
+                            int rounds);
+
+    // From the selection of a row to rest: all pages stored, loaded and painted.
+    struct Selection
+    {
+        int listId;
+        std::vector<int> rows; // two, taken in turn; negative ones count from the end
+        Rebuilds rebuilds;
+    };
+    Comparison Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
+                      const Selection& selection, int rounds);
+
+private:
+    void RunEditor(const EditorKind& kind, const refhost::Machine& machine, const std::vector<Stage::Step>& steps);
+
+    Stage& m_stage;
+    HMODULE m_library;
+    IQuorvane& m_editors;
+    std::wstring m_languageDir;
+};

@@ -1,0 +1,99 @@
+#include "bench/Report.h"
+
+#include <cstdio>
+#include <nlohmann/json.hpp>
+
+namespace
+{
+std::string Number(double value)
+{
+    char text[32];
+    std::snprintf(text, sizeof text, value < 1 ? "%.4f" : value < 100 ? "%.2f" : "%.0f", value);
+    return text;
+}
+
+std::string Verdict(double value, double target)
+{
+    if (target == 0)
+        return "";
+    return Number(target) + (value <= target ? " kept" : " **missed**");
+}
+
+// The exponent between the two largest sizes, where nothing constant hides it.
+double LastStep(const std::vector<double>& sizes, const std::vector<double>& costs)
+{
+    return GrowthExponent({sizes.end() - 2, sizes.end()}, {costs.end() - 2, costs.end()});
+}
+
+nlohmann::ordered_json Json(const Samples& samples)
+{
+    return {{"median", samples.Median()}, {"p95", samples.Percentile95()}};
+}
+} // namespace
+
+void Comparison::Add(double subjectTime, double baselineTime)
+{
+    subject.Add(subjectTime);
+    baseline.Add(baselineTime);
+    ratios.Add(subjectTime / baselineTime);
+}
+
+void Report::WriteMarkdown(std::ostream& out) const
+{
+    out << "### " << title << "\n\n"
+        << "| Case | ms | 95% | CPU | baseline ms | 95% | CPU | ratio | 95% | target |\n"
+        << "|---|--:|--:|--:|--:|--:|--:|--:|--:|---|\n";
+    for (const Comparison& one : comparisons)
+        out << "| " << one.name << " | " << Number(one.subject.Median()) << " | " << Number(one.subject.Percentile95())
+            << " | " << Number(one.subjectProcessor) << " | " << Number(one.baseline.Median()) << " | "
+            << Number(one.baseline.Percentile95()) << " | " << Number(one.baselineProcessor) << " | "
+            << Number(one.ratios.Median()) << " | " << Number(one.ratios.Percentile95()) << " | "
+            << Verdict(one.ratios.Median(), one.target) << " |\n";
+    out << "\n| Growth, ms by rows |";
+    for (double size : growths.empty() ? std::vector<double>() : growths.front().sizes)
+        out << ' ' << Number(size) << " |";
+    out << " exponent | last step | of the baseline | last step |\n|---|";
+    for (std::size_t i = 0; !growths.empty() && i < growths.front().sizes.size(); ++i)
+        out << "--:|";
+    out << "--:|--:|--:|--:|\n";
+    for (const Growth& one : growths)
+    {
+        out << "| " << one.name << " |";
+        for (double cost : one.subject)
+            out << ' ' << Number(cost) << " |";
+        for (const std::vector<double>& costs : {one.subject, one.baseline})
+            out << ' ' << Number(GrowthExponent(one.sizes, costs)) << " | " << Number(LastStep(one.sizes, costs))
+                << " |";
+        out << '\n';
+    }
+    out << "\n| Value | | target |\n|---|--:|---|\n";
+    for (const Value& one : values)
+        out << "| " << one.name << " | " << Number(one.value) << ' ' << one.unit << " | "
+            << Verdict(one.value, one.target) << " |\n";
+    out << '\n';
+}
+
+void Report::WriteJson(std::ostream& out) const
+{
+    nlohmann::ordered_json json = {{"title", title}};
+    for (const Comparison& one : comparisons)
+        json["comparisons"].push_back({{"name", one.name},
+                                       {"ms", Json(one.subject)},
+                                       {"baselineMs", Json(one.baseline)},
+                                       {"ratio", Json(one.ratios)},
+                                       {"processorMs", one.subjectProcessor},
+                                       {"baselineProcessorMs", one.baselineProcessor},
+                                       {"target", one.target}});
+    for (const Growth& one : growths)
+        json["growth"].push_back({{"name", one.name},
+                                  {"rows", one.sizes},
+                                  {"ms", one.subject},
+                                  {"baselineMs", one.baseline},
+                                  {"exponent", GrowthExponent(one.sizes, one.subject)},
+                                  {"exponentOfLastStep", LastStep(one.sizes, one.subject)},
+                                  {"baselineExponent", GrowthExponent(one.sizes, one.baseline)}});
+    for (const Value& one : values)
+        json["values"].push_back(
+            {{"name", one.name}, {"value", one.value}, {"unit", one.unit}, {"target", one.target}});
+    out << json.dump(2) << '\n';
+}

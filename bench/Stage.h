@@ -1,0 +1,32 @@
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+#include <windows.h>
+
+// The host's part in a measurement: the window that owns the dialog. A modal loop tells the owner whenever the dialog
+// has come to rest: nothing is left to be handled or painted. One at a time.
+class Stage
+{
+public:
+    Stage();
+    ~Stage();
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+
+    using Step = std::function<void(HWND dialog)>;
+
+    // Runs a modal dialog. Each time it comes to rest the next step is called; after the last one it is cancelled.
+    void Run(const std::function<void()>& modal, const std::vector<Step>& steps);
+
+    HWND Owner() const { return m_owner; }
+
+private:
+    static LRESULT CALLBACK OwnerProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    void AtRest(HWND dialog);
+
+    HWND m_owner;
+    std::vector<Step> m_steps;
+    std::size_t m_next = 0;
+};

@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# run-bench.sh ARCH ROUNDS ONLY: measures a build under Wine, on the current DISPLAY; ONLY may be empty. It leaves the
+# tables and all figures in build/bench. Runs on this system and inside the i386 system alike.
+. "$(dirname "$0")/common.sh"
+. "$project/tools/wine.sh"
+
+arch=$1 rounds=$2 only=$3
+# Far beyond what it takes: only a run that hangs gets there.
+limit=1800
+
+fresh_prefix "$arch" "bench-$arch" wine-tests.reg
+trap end_wine EXIT
+cd "$build/$arch/bin"
+timeout -k 10 "$limit" wine quorvane_bench.exe --title "$arch" --json "../../bench/$arch.json" --rounds "$rounds" \
+    ${only:+--only "$only"} >"$build/bench/$arch.md" </dev/null || die "the measurement ended with status $?"
+sed -i 's/\r$//' "$build/bench/$arch.md"
