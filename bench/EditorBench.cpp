@@ -7,7 +7,7 @@
 
 namespace
 {
-constexpr int kChangesPerRun = 8;
+constexpr std::size_t kChangesPerRun = 8;
 
 // Adds up what is taken between its starts and stops.
 class ProcessorShare
@@ -36,19 +36,26 @@ void Select(HWND dialog, int listId, int row)
                  reinterpret_cast<LPARAM>(list));
 }
 
-// Steps that make changes one after another and time each until the next step.
-std::vector<Stage::Step> TimedChanges(const std::function<void(HWND, int)>& change, std::vector<double>& times)
+struct Times
+{
+    std::vector<double> handled;
+    std::vector<double> painted;
+};
+
+// Steps that make changes one after another; one has ended when the next step comes.
+std::vector<Stage::Step> TimedChanges(const std::function<void(HWND, std::size_t)>& change, Times& times)
 {
     std::vector<Stage::Step> steps;
     const auto start = std::make_shared<double>(0);
-    for (int i = 0; i < kChangesPerRun; ++i)
+    for (std::size_t i = 0; i < kChangesPerRun; ++i)
         steps.push_back([=, &times](HWND dialog) {
             if (i > 0)
-                times.push_back(Now() - *start);
+                times.painted.push_back(Now() - *start);
             *start = Now();
             change(dialog, i);
+            times.handled.push_back(Now() - *start);
         });
-    steps.push_back([=, &times](HWND) { times.push_back(Now() - *start); });
+    steps.push_back([=, &times](HWND) { times.painted.push_back(Now() - *start); });
     return steps;
 }
 } // namespace
@@ -91,11 +98,11 @@ Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& 
     return comparison;
 }
 
-Comparison EditorBench::Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
-                               const Selection& selection, int rounds)
+EditorBench::ChangeTimes EditorBench::Change(const std::string& name, const EditorKind& kind,
+                                             const refhost::Machine& machine, const Selection& selection, int rounds)
 {
-    const auto select = [&](HWND dialog, int change) {
-        Select(dialog, selection.listId, selection.rows[static_cast<std::size_t>(change) % 2]);
+    const auto select = [&](HWND dialog, std::size_t change) {
+        Select(dialog, selection.listId, selection.rows[change % 2]);
     };
     std::array<EditorState, 2> states;
     RunEditor(kind, machine,
@@ -111,24 +118,26 @@ Comparison EditorBench::Change(const std::string& name, const EditorKind& kind, 
     FloorEditor floor(m_library, kind, states[1]);
     const FloorChange changes[] = {{kind, states[1], states[0], selection.rebuilds},
                                    {kind, states[0], states[1], selection.rebuilds}};
-    const auto changeFloor = [&](HWND dialog, int change) {
+    const auto changeFloor = [&](HWND dialog, std::size_t change) {
         const HWND list = GetDlgItem(dialog, selection.listId);
-        const int row = selection.rows[static_cast<std::size_t>(change) % 2];
+        const int row = selection.rows[change % 2];
         SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(Row(list, row)), 0);
         floor.Apply(changes[change % 2]);
     };
-    Comparison comparison{name};
-    ProcessorShare editorShare, floorShare;
+    ChangeTimes result{Comparison(name + ", handled"), Comparison(name + ", painted")};
     for (int round = 0; round < rounds; ++round)
     {
-        std::vector<double> editorTimes, floorTimes;
-        std::vector<Stage::Step> floorSteps = TimedChanges(changeFloor, floorTimes);
-        std::vector<Stage::Step> editorSteps = TimedChanges(select, editorTimes);
+        Times ofEditor, ofFloor;
+        const std::vector<Stage::Step> floorSteps = TimedChanges(changeFloor, ofFloor);
+        std::vector<Stage::Step> editorSteps = TimedChanges(select, ofEditor);
         editorSteps.insert(editorSteps.begin(), [&](HWND dialog) { select(dialog, 1); });
         m_stage.Run([&] { floor.Run(m_stage.Owner()); }, floorSteps);
         RunEditor(kind, machine, editorSteps);
-        for (std::size_t i = 0; i < editorTimes.size(); ++i)
-            comparison.Add(editorTimes[i], floorTimes[i]);
+        for (std::size_t i = 0; i < kChangesPerRun; ++i)
+        {
+            result.handled.Add(ofEditor.handled[i], ofFloor.handled[i]);
+            result.painted.Add(ofEditor.painted[i], ofFloor.painted[i]);
+        }
     }
-    return comparison;
+    return result;
 }

@@ -19,15 +19,20 @@ public:
     Comparison OpenAndClose(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
                             int rounds);
 
-    // From the selection of a row to rest: all pages stored, loaded and painted.
+    // What a selection of another row takes.
     struct Selection
     {
         int listId;
         std::vector<int> rows; // two, taken in turn; negative ones count from the end
         Rebuilds rebuilds;
     };
-    Comparison Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
-                      const Selection& selection, int rounds);
+    struct ChangeTimes
+    {
+        Comparison handled; // until the pages are stored and loaded
+        Comparison painted; // until everything is painted too
+    };
+    ChangeTimes Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
+                       const Selection& selection, int rounds);
 
 private:
     void RunEditor(const EditorKind& kind, const refhost::Machine& machine, const std::vector<Stage::Step>& steps);

@@ -92,9 +92,11 @@ ReadyMessages ReadyMessages::Reading(const WindowState& state)
 
 void ReadyMessages::Send(HWND window) const
 {
-    for (const Control& control : m_controls)
+    for (Control& control : m_controls)
     {
-        const HWND target = GetDlgItem(window, control.id);
+        if (control.parent != window)
+            control.window = GetDlgItem(control.parent = window, control.id);
+        const HWND target = control.window;
         for (const Message& message : control.messages)
             SendMessageW(target, message.message, message.wParam,
                          message.hasText ? reinterpret_cast<LPARAM>(message.text.data()) : message.lParam);

@@ -15,6 +15,7 @@ public:
     // What reads the values that an operator can change.
     static ReadyMessages Reading(const WindowState& state);
 
+    // Controls are looked for once as long as the window lives.
     void Send(HWND window) const;
 
 private:
@@ -33,10 +34,12 @@ private:
         std::vector<Message> messages;
         int enable = -1; // -1: stays
         int show = -1;
+        HWND window = nullptr; // as found below the parent
+        HWND parent = nullptr;
     };
 
     ReadyMessages() = default;
     static void FillRows(Control& control, const ControlState& state);
 
-    std::vector<Control> m_controls;
+    mutable std::vector<Control> m_controls;
 };
