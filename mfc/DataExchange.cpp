@@ -68,7 +68,8 @@ bool afx::ParseFloat(LPCTSTR pszText, float& value)
 
 HWND CDataExchange::PrepareCtrl(int nIDC)
 {
-    HWND hWnd = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
+    HWND hWnd;
+    m_pDlgWnd->GetDlgItem(nIDC, &hWnd);
     if (!hWnd)
         throw CNotSupportedException();
     m_hWndLastControl = hWnd;

@@ -124,6 +124,16 @@ void CWnd::GetWindowText(CString& rString) const
     rString = buffer;
 }
 
+// The system walks the children at every question, and some systems ask another process for them: an editor with two
+// hundred controls asks hundreds of times at each change. So a child is remembered for as long as it is one.
+HWND CWnd::ChildById(int nID) const
+{
+    HWND& hWnd = m_mapChildren[nID];
+    if (!hWnd || ::GetAncestor(hWnd, GA_PARENT) != m_hWnd || ::GetDlgCtrlID(hWnd) != nID)
+        hWnd = ::GetDlgItem(m_hWnd, nID);
+    return hWnd;
+}
+
 BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 {
     AfxState& state = AfxGetState();

@@ -16,6 +16,8 @@
 #include <afxmsg_.h>
 #include <afxstr.h>
 
+#include <unordered_map>
+
 class CMenu;
 
 class CWnd
@@ -39,7 +41,8 @@ public:
     HWND UnsubclassWindow();
     virtual BOOL DestroyWindow();
 
-    CWnd* GetDlgItem(int nID) const { return FromHandle(::GetDlgItem(m_hWnd, nID)); }
+    CWnd* GetDlgItem(int nID) const { return FromHandle(ChildById(nID)); }
+    void GetDlgItem(int nID, HWND* phWnd) const { *phWnd = ChildById(nID); }
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_STYLE)); }
@@ -113,10 +116,12 @@ protected:
 
 private:
     static LPPOINT PointsOf(LPRECT lpRect) { return reinterpret_cast<LPPOINT>(lpRect); }
+    HWND ChildById(int nID) const;
     BOOL DispatchMapped(UINT message, UINT nCode, UINT nID, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     bool NotificationsHeld() const;
 
-    WNDPROC m_pfnSuper = nullptr; // the procedure that the window had before it was subclassed
+    mutable std::unordered_map<int, HWND> m_mapChildren; // as last found
+    WNDPROC m_pfnSuper = nullptr;                        // the procedure that the window had before it was subclassed
 };
 
 class CDialog : public CWnd

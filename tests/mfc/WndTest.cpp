@@ -94,6 +94,29 @@ TEST(WindowMap, GivesParentsAndItems)
     EXPECT_EQ(nullptr, dialog.GetDlgItem(199));
 }
 
+// A child is remembered, but never for longer than it is one.
+TEST(WindowMap, FollowsItemsThatChange)
+{
+    TestDialog dialog;
+    dialog.Create(dialogTemplate);
+    HWND hWndOld;
+    dialog.GetDlgItem(editId, &hWndOld);
+    EXPECT_EQ(hWndOld, ::GetDlgItem(dialog.m_hWnd, editId));
+    ::SetWindowLongPtr(hWndOld, GWLP_ID, editId + 50);
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId));
+    EXPECT_EQ(hWndOld, dialog.GetDlgItem(editId + 50)->m_hWnd);
+
+    ::DestroyWindow(hWndOld);
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId + 50));
+    const RECT rect = {0, 0, 10, 10};
+    CWnd edit;
+    ASSERT_TRUE(edit.CreateEx(0, L"EDIT", L"", WS_CHILD, rect, &dialog, editId));
+    EXPECT_EQ(&edit, dialog.GetDlgItem(editId));
+
+    ::SetParent(edit.m_hWnd, dialog.GetDlgItem(buttonId)->m_hWnd);
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId));
+}
+
 // Subclassing
 
 TEST(Subclassing, TakesOneObjectPerWindowAndOneWindowPerObject)
