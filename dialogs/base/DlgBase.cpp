@@ -2,6 +2,16 @@
 
 #include "dialogs/base/HostContext.h"
 
+namespace
+{
+// Only what is to be seen can hold it; asking the system takes longer.
+bool HoldsFocus(HWND hWnd)
+{
+    const HWND hWndFocus = ::IsWindowVisible(hWnd) ? ::GetFocus() : nullptr;
+    return hWndFocus && (hWndFocus == hWnd || ::IsChild(hWnd, hWndFocus));
+}
+} // namespace
+
 void CDlgBase::InitLanguage(LPCTSTR pszSection, CWnd* pOwner)
 {
     m_strSection = pszSection;
@@ -34,8 +44,24 @@ int CDlgBase::ApplyTitle()
 void EnableControl(CWnd& control, bool bEnable)
 {
     const HWND hWnd = control.GetSafeHwnd();
-    const HWND hWndFocus = ::GetFocus();
-    if (!bEnable && (hWndFocus == hWnd || ::IsChild(hWnd, hWndFocus)))
+    if (!::IsWindowEnabled(hWnd) == !bEnable)
+        return;
+    if (!bEnable && HoldsFocus(hWnd))
         ::SendMessage(::GetAncestor(hWnd, GA_ROOT), WM_NEXTDLGCTL, 0, 0);
     control.EnableWindow(bEnable);
+}
+
+void ShowControl(CWnd& control, bool bShow)
+{
+    // Asking for what is there already costs as much as a change.
+    if (!(control.GetStyle() & WS_VISIBLE) == bShow)
+        control.ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+}
+
+void ShowText(CWnd& control, LPCTSTR pszText)
+{
+    CString strShown;
+    control.GetWindowText(strShown);
+    if (strShown != pszText)
+        control.SetWindowText(pszText);
 }

@@ -47,3 +47,6 @@ private:
 // Enables or disables a control. A control that has the focus hands it on first: a disabled one would leave the
 // keyboard dead.
 void EnableControl(CWnd& control, bool bEnable);
+void ShowControl(CWnd& control, bool bShow);
+// A text that stands there already is not set again: that would draw it again too.
+void ShowText(CWnd& control, LPCTSTR pszText);

@@ -298,7 +298,7 @@ void CDlgPrintSchemeCustomEclosion::ShowElements(IEclosionMode* pMode)
 void CDlgPrintSchemeCustomEclosion::ShowElement(ElementView& view, IEclosionElement* pElement, bool bShow)
 {
     for (int nId : {view.nGroupId, view.nWidthLabelId, view.nHeightLabelId, view.nWidthId, view.nHeightId})
-        GetDlgItem(nId)->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+        ShowControl(*GetDlgItem(nId), bShow);
     view.bShow = bShow;
     if (pElement)
     {
@@ -316,7 +316,7 @@ void CDlgPrintSchemeCustomEclosion::ShowRadios(ICustomEclosion* pEclosion)
     std::uint32_t nShown = pEclosion ? pEclosion->GetModeCount() : 0;
     for (int nId : RADIOS)
     {
-        GetDlgItem(nId)->ShowWindow(nShown > 0 ? SW_SHOW : SW_HIDE);
+        ShowControl(*GetDlgItem(nId), nShown > 0);
         nShown -= nShown > 0 ? 1 : 0;
     }
 }

@@ -228,14 +228,17 @@ void CDlgPrintSchemeElc::FillTypes()
 
 void CDlgPrintSchemeElc::FillLevels()
 {
-    Refill(m_cmbEclosionLevel, [this] {
+    const bool bCustom = ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0;
+    const auto fill = [&] {
         m_cmbEclosionLevel.AddString(GetLanguageText(L"CLOSE_ECLOSION", L"Close Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"LIGHT_ECLOSION", L"Light Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"NORMAL_ECLOSION", L"Normal Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"DEPTH_ECLOSION", L"Depth Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"SUPER_ECLOSION", L"Super Eclosion"));
-        if (ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0)
+        if (bCustom)
             m_cmbEclosionLevel.AddString(GetLanguageText(L"CUSTOM_ECLOSION", L"Custom Eclosion"));
-    });
+    };
+    if (m_cmbEclosionLevel.GetCount() != LEVEL_ROW_CUSTOM + (bCustom ? 1 : 0))
+        Refill(m_cmbEclosionLevel, fill);
     m_cmbEclosionLevel.SetCurSel(LevelRowOfCode(ValueOf([](auto& scheme) { return scheme.GetEclosionLevel(); }, 0)));
 }

@@ -152,7 +152,7 @@ void CDlgPrintSchemeInkCut::ShowRow(int nRow, bool bShow)
 void CDlgPrintSchemeInkCut::LoadRow(size_t nRow, IInkGroup& group)
 {
     const CString strName = HostText(group.GetName());
-    m_lblColor[nRow].SetWindowText(GetLanguageText(strName, strName));
+    ShowText(m_lblColor[nRow], GetLanguageText(strName, strName));
     IInkGroupTable* pTable = InkGroups();
     const std::uint8_t nColor = pTable ? pTable->GetColorIndex(group.GetId()) : std::uint8_t{0};
     const int nPercent = ValueOf([=](auto& scheme) { return scheme.GetInkCut(nColor); }, 0);

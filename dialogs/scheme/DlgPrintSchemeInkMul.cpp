@@ -96,7 +96,7 @@ void CDlgPrintSchemeInkMul::LoadRow(int nRow)
     const auto nIndex = static_cast<size_t>(nRow);
     IInkChannel& channel = *m_vecChannels[nIndex];
     const CString strName = HostText(channel.GetName());
-    m_lblColor[nIndex].SetWindowText(GetLanguageText(strName, strName));
+    ShowText(m_lblColor[nIndex], GetLanguageText(strName, strName));
     IInkChannelTable* pTable = GetHostContext().pData->GetInkChannels();
     const std::uint8_t nColor = pTable ? ColorIndexOf(*pTable, channel) : std::uint8_t{0};
     const int nTenths = ValueOf([=](auto& scheme) { return scheme.GetInkMultiple(nColor); }, 0);
@@ -105,14 +105,15 @@ void CDlgPrintSchemeInkMul::LoadRow(int nRow)
 
 void CDlgPrintSchemeInkMul::FillMultiples(CComboBox& combo, int nMultiple)
 {
-    Refill(combo, [&] {
-        for (int i = 1; i <= MAX_MULTIPLE; ++i)
-        {
-            CString strRow;
-            strRow.Format(L"%d", i);
-            AddRow(combo, strRow, i);
-        }
-    });
+    if (combo.GetCount() != MAX_MULTIPLE) // the rows are always the same
+        Refill(combo, [&] {
+            for (int i = 1; i <= MAX_MULTIPLE; ++i)
+            {
+                CString strRow;
+                strRow.Format(L"%d", i);
+                AddRow(combo, strRow, i);
+            }
+        });
     combo.SetCurSel(nMultiple >= 1 && nMultiple <= MAX_MULTIPLE ? nMultiple - 1 : 0);
 }
 

@@ -4,6 +4,7 @@
 #include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
 #include "dialogs/base/PassCounts.h"
+#include "dialogs/base/Rows.h"
 #include "host/IConfigList.h"
 #include "host/IHostData.h"
 #include "host/IPrintConfig.h"
@@ -94,17 +95,18 @@ void CDlgPrintSchemeMode::FillFixedLists()
 int CDlgPrintSchemeMode::FillModes(IPrintConfig& config, int nModeIndex)
 {
     int nFound = -1;
-    m_cmbMode.ResetContent();
-    const int nCount = static_cast<int>(SaneCount(config.GetModeCount()));
-    for (int k = 0; k < nCount; ++k)
-    {
-        IPrintMode* pMode = config.GetMode(static_cast<std::uint32_t>(k));
-        if (!pMode || pMode->GetDisabled())
-            continue;
-        AddRow(m_cmbMode, HostText(pMode->GetName()), k);
-        if (k == nModeIndex)
-            nFound = k;
-    }
+    Refill(m_cmbMode, [&] {
+        const int nCount = static_cast<int>(SaneCount(config.GetModeCount()));
+        for (int k = 0; k < nCount; ++k)
+        {
+            IPrintMode* pMode = config.GetMode(static_cast<std::uint32_t>(k));
+            if (!pMode || pMode->GetDisabled())
+                continue;
+            AddRow(m_cmbMode, HostText(pMode->GetName()), k);
+            if (k == nModeIndex)
+                nFound = k;
+        }
+    });
     return nFound;
 }
 

@@ -47,7 +47,7 @@ int CDlgPrintSchemeUv::ApplyLanguage()
 
 void CDlgPrintSchemeUv::UpdateCtrlState()
 {
-    if (::GetDlgItem(m_hWnd, IDC_CHECK_LPRINT_LLIGHT))
+    if (GetDlgItem(IDC_CHECK_LPRINT_LLIGHT))
         EnableControls(LAMPS, IsEditable());
 }
 

@@ -71,7 +71,7 @@ protected:
     void ShowControls(const Ids& ids, bool bShow)
     {
         for (int nId : ids)
-            GetDlgItem(nId)->ShowWindow(bShow ? SW_SHOW : SW_HIDE);
+            ShowControl(*GetDlgItem(nId), bShow);
     }
 
 private:
