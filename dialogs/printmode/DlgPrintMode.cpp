@@ -181,7 +181,7 @@ void CDlgPrintMode::OnAddMode()
     if (!pMode)
         return;
     pMode->SetName(NewModeName(*pConfig).c_str());
-    const int nLine = InsertMode(m_lstModes.GetCount(), pMode);
+    const int nLine = InsertMode(-1, pMode);
     if (nLine < 0)
     {
         pConfig->RemoveMode(pConfig->GetModeCount() - 1);
@@ -269,7 +269,7 @@ void CDlgPrintMode::FillModeList(bool bSkipStore)
         const std::uint32_t nCount = pConfig ? SaneCount(pConfig->GetModeCount()) : 0;
         for (std::uint32_t i = 0; i < nCount; ++i)
             if (IPrintMode* pMode = pConfig->GetMode(i))
-                InsertMode(m_lstModes.GetCount(), pMode);
+                InsertMode(-1, pMode);
     });
     if (m_lstModes.GetCount() == 0)
         return; // the pages keep their mode, whose edits must not be lost, and the buttons their state

@@ -44,6 +44,7 @@ private:
     IPrintConfig* SelectedConfig() const;
     // The mode of a line, null for none.
     IPrintMode* ModeAt(int nLine) const;
+    // -1: at the end. Gives the new line.
     int InsertMode(int nLine, IPrintMode* pMode);
     void MoveLine(int nFrom, int nTo, int nSelect);
     bool IsAttachedModeListed() const;

@@ -11,7 +11,6 @@
 #include "resources/resource.h"
 
 #include <algorithm>
-#include <memory>
 
 namespace
 {
@@ -90,21 +89,27 @@ void CDlgPrintModeData::Rebuild()
     IHostData* pData = GetHostContext().pData;
     IHeadLayoutList* pList = pData && m_pMode ? pData->GetHeadLayoutList() : nullptr;
     const std::uint32_t nCount = HostCount(pList);
+    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> rows;
     for (std::uint32_t i = 0; i < nCount; ++i)
     {
         IHeadLayout* pLayout = pList->GetAt(i);
         if (pLayout && pLayout->GetDataModeCount() != 0)
-            AddRow(*pLayout, i); // a layout without a row counts all the same: the mode stores by its position
+            rows.push_back(MakeRow(*pLayout, i)); // without a row it counts too: the mode stores by its position
+    }
+    for (auto& pRow : rows)
+    {
+        const BOOL bLast = &pRow == &rows.back(); // the grid is laid out and drawn once, however many rows it gets
+        m_grid.AddProperty(pRow.release(), bLast, bLast);
     }
 }
 
-void CDlgPrintModeData::AddRow(IHeadLayout& layout, std::uint32_t nRow)
+std::unique_ptr<CMFCPropertyGridProperty> CDlgPrintModeData::MakeRow(IHeadLayout& layout, std::uint32_t nRow)
 {
     auto pProperty =
         std::make_unique<CMFCPropertyGridProperty>(HostText(layout.GetName()), L"", nullptr, layout.GetId());
     pProperty->AllowEdit(FALSE);
     SetOptions(*pProperty, layout, nRow);
-    m_grid.AddProperty(pProperty.release());
+    return pProperty;
 }
 
 void CDlgPrintModeData::SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& layout, std::uint32_t nRow)

@@ -6,6 +6,7 @@
 #include <afxpropertygridctrl.h>
 
 #include <cstdint>
+#include <memory>
 
 class IHeadLayout;
 class IPrintMode;
@@ -31,7 +32,7 @@ protected:
 
 private:
     void CreateGrid();
-    void AddRow(IHeadLayout& layout, std::uint32_t nRow);
+    std::unique_ptr<CMFCPropertyGridProperty> MakeRow(IHeadLayout& layout, std::uint32_t nRow);
     void SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& layout, std::uint32_t nRow);
 
     IPrintMode* m_pMode = nullptr;
