@@ -172,10 +172,9 @@ void MeasureLanguage(Report& report, int rounds)
     report.comparisons.push_back(later);
 }
 
-void MeasureMemory(Report& report)
+void MeasureMemory(Report& report, const std::string& name)
 {
     PROCESS_MEMORY_COUNTERS counters{};
     GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-    report.values.push_back(
-        {"peak memory of the whole process", static_cast<double>(counters.PeakWorkingSetSize) / kKib, "KiB", 0});
+    report.values.push_back({name, static_cast<double>(counters.PeakWorkingSetSize) / kKib, "KiB", 0});
 }

@@ -22,4 +22,5 @@ LoadedLibrary MeasureLoading(Report& report, int rounds);
 // Texts of the language file against the system's profile call.
 void MeasureLanguage(Report& report, int rounds);
 
-void MeasureMemory(Report& report);
+// The most that the whole process has had so far.
+void MeasureMemory(Report& report, const std::string& name);

@@ -71,7 +71,7 @@ public:
         m_bench.emplace(stage, library.module, *library.editors, ProgramFolder() + L"lang\\en");
         MeasureEditors();
         MeasureGrowth();
-        MeasureMemory(m_report);
+        MeasureMemory(m_report, "peak memory, editors and floors with 10,000 rows");
         return m_report;
     }
 
@@ -134,6 +134,7 @@ void Bench::MeasureEditors()
     const refhost::Machine sample = SampleMachine();
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})
         Opening(std::string("open and close ") + kind->name, *kind, sample);
+    MeasureMemory(m_report, "peak memory, editors and floors with the sample machine");
     const refhost::Machine large =
         WithUserSchemes(WithFactorySchemes(WithConfigs(sample, kManyConfigs), kManyFactorySchemes), kManySchemes);
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})
