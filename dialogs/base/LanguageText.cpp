@@ -3,6 +3,7 @@
 #include "dialogs/base/SystemText.h"
 
 #include <algorithm>
+#include <unordered_set>
 
 namespace
 {
@@ -27,12 +28,22 @@ std::wstring_view CutAtNul(std::wstring_view text)
     return text.substr(0, text.find(L'\0'));
 }
 
-std::wstring FoldName(std::wstring_view name)
+std::wstring_view NameOf(std::wstring_view text)
 {
-    std::wstring folded(CutAtNul(Trim(name)));
-    std::transform(folded.begin(), folded.end(), folded.begin(),
+    return CutAtNul(Trim(text));
+}
+
+// No line of a file holds the character between the two, so neither name can be taken for a part of the other.
+std::wstring JoinNames(std::wstring_view section, std::wstring_view key)
+{
+    section = NameOf(section);
+    key = NameOf(key);
+    std::wstring joined;
+    joined.reserve(section.size() + 1 + key.size());
+    joined.append(section).append(1, L'\n').append(key);
+    std::transform(joined.begin(), joined.end(), joined.begin(),
                    [](wchar_t c) { return c >= L'A' && c <= L'Z' ? static_cast<wchar_t>(c - L'A' + L'a') : c; });
-    return folded;
+    return joined;
 }
 
 std::wstring DecodeUtf16(std::string_view bytes, size_t lowByte)
@@ -109,7 +120,9 @@ std::wstring CLanguageText::GetText(std::wstring_view section, std::wstring_view
 // belong to a section with an empty name.
 void CLanguageText::Parse(std::wstring_view text)
 {
-    Keys* pKeys = &m_mapSections[std::wstring()];
+    std::unordered_set<std::wstring> sections = {JoinNames(L"", L"")};
+    std::wstring_view section;
+    bool isFirstOfName = true;
     while (!text.empty())
     {
         const size_t end = std::min(text.find_first_of(L"\r\n"), text.size());
@@ -119,36 +132,29 @@ void CLanguageText::Parse(std::wstring_view text)
             continue;
         if (const auto name = SectionName(line))
         {
-            const auto [position, isNew] = m_mapSections.try_emplace(FoldName(*name));
-            pKeys = isNew ? &position->second : nullptr;
+            section = *name;
+            isFirstOfName = sections.insert(JoinNames(section, L"")).second;
         }
-        else if (pKeys)
+        else if (isFirstOfName)
         {
             const size_t equals = line.find(L'=');
             std::optional<std::wstring> value;
             if (equals != std::wstring_view::npos)
                 value = CutAtNul(TrimLeft(line.substr(equals + 1)));
-            pKeys->try_emplace(FoldName(line.substr(0, equals)), std::move(value));
+            m_mapValues.try_emplace(JoinNames(section, line.substr(0, equals)), std::move(value));
         }
     }
 }
 
 const std::wstring* CLanguageText::FindValue(std::wstring_view section, std::wstring_view key) const
 {
-    const auto keys = m_mapSections.find(FoldName(section));
-    if (keys == m_mapSections.end())
-        return nullptr;
-    const auto value = keys->second.find(FoldName(key));
-    return value != keys->second.end() && value->second ? &*value->second : nullptr;
+    const auto value = m_mapValues.find(JoinNames(section, key));
+    return value != m_mapValues.end() && value->second ? &*value->second : nullptr;
 }
 
-std::wstring ExpandLineBreaks(std::wstring_view text)
+std::wstring ExpandLineBreaks(std::wstring text)
 {
-    std::wstring result;
-    for (size_t at = text.find(L"\\n"); at != std::wstring_view::npos; at = text.find(L"\\n"))
-    {
-        result.append(text.substr(0, at)).append(L"\r\n");
-        text.remove_prefix(at + 2);
-    }
-    return result.append(text);
+    for (size_t at = text.find(L"\\n"); at != std::wstring::npos; at = text.find(L"\\n", at))
+        text.replace(at, 2, L"\r\n");
+    return text;
 }

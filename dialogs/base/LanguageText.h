@@ -22,14 +22,12 @@ public:
     std::wstring GetText(std::wstring_view section, std::wstring_view key, std::wstring_view defaultText) const;
 
 private:
-    // A key without "=" hides later keys of its name and has no value.
-    using Keys = std::unordered_map<std::wstring, std::optional<std::wstring>>;
-
     void Parse(std::wstring_view text);
     const std::wstring* FindValue(std::wstring_view section, std::wstring_view key) const;
 
-    std::unordered_map<std::wstring, Keys> m_mapSections;
+    // By the names of section and key in one. A key without "=" hides later keys of its name and has no value.
+    std::unordered_map<std::wstring, std::optional<std::wstring>> m_mapValues;
 };
 
 // Line breaks are written in a language file as a backslash and an "n"; controls want CR LF.
-std::wstring ExpandLineBreaks(std::wstring_view text);
+std::wstring ExpandLineBreaks(std::wstring text);
