@@ -70,15 +70,17 @@ mkdir -p "$build/bench"
 for arch in "${arches[@]}"; do
     build_preset "$arch" quorvane_bench
 done
-if measures_x86 && ! x86_prepare >"$build/x86-skipped"; then
-    say "Skipped: x86, because $(cat "$build/x86-skipped")"
-    arches=("${arches[@]/x86/}")
-fi
-for arch in ${arches[*]}; do
+measured=()
+for arch in "${arches[@]}"; do
+    if [ "$arch" = x86 ] && ! x86_prepare >"$build/x86-skipped"; then
+        say "Skipped: x86, because $(cat "$build/x86-skipped")"
+        continue
+    fi
     say "Measuring $arch"
     measure "$arch"
+    measured+=("$arch")
 done
 machine_kind
-for arch in ${arches[*]}; do
+for arch in "${measured[@]}"; do
     cat "$build/bench/$arch.md"
 done
