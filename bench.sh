@@ -60,7 +60,7 @@ measure() {
 }
 
 machine_kind() {
-    printf '%s cores, %s MiB of memory, %s\n\n' "$(nproc)" "$(free -m | awk '$1 == "Mem:" { print $2 }')" \
+    printf '%s cores, %s MiB of memory, %s\n\n' "$(nproc)" "$(awk '$1 == "MemTotal:" { print int($2 / 1024) }' /proc/meminfo)" \
         "$(wine --version 2>/dev/null)"
 }
 

@@ -72,6 +72,7 @@ can_run() { [ "$1" != x86 ] || $x86_usable; }
 # run_arch ARCH: on a screen of its own where windows open.
 run_arch() {
     rm -rf "$build/$1/results"
+    mkdir -p "$build/$1/results"
     if [ "$1" = native-asan ]; then
         "$project/tools/run-suite.sh" "$1" "$filter" "$seed" "$long"
         return

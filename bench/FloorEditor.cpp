@@ -10,7 +10,7 @@ namespace
 constexpr int kTabPadding = 4;
 constexpr wchar_t kGridClass[] = L"BenchGrid";
 
-// The lists that a page builds anew for every scheme or mode.
+// The lists that a page fills anew for every scheme or mode.
 std::set<int> RebuiltLists(UINT pageTemplate)
 {
     switch (pageTemplate)
@@ -19,18 +19,11 @@ std::set<int> RebuiltLists(UINT pageTemplate)
         return {IDC_CMB_XDPI,        IDC_CMB_SMALL_GROUP, IDC_CMB_MEDIUM_GROUP,
                 IDC_CMB_LARGE_GROUP, IDC_CMB_FRONT_GROUP, IDC_CMB_BACK_GROUP};
     case IDD_SCHEME_CMMN:
-        return {IDC_CMB_MATERIAL, IDC_CMB_WAVE, IDC_CMB_CHANNEL, IDC_CMB_LAYOUT, IDC_CMB_HEAD};
+        return {IDC_CMB_MATERIAL, IDC_CMB_CHANNEL, IDC_CMB_LAYOUT, IDC_CMB_HEAD};
     case IDD_SCHEME_MODE:
         return {IDC_CMB_PRINT_MODE};
     case IDD_SCHEME_ELC:
-        return {IDC_CMB_ELC_TYPE, IDC_CMB_ELC_LEVEL};
-    case IDD_SCHEME_INK_MUL:
-    {
-        std::set<int> combos;
-        for (int row = 0; row < 12; ++row)
-            combos.insert(IDC_CMB_INK_MUL_FIRST + row);
-        return combos;
-    }
+        return {IDC_CMB_ELC_TYPE};
     default:
         return {};
     }

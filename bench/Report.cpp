@@ -57,7 +57,7 @@ void Report::WriteMarkdown(std::ostream& out) const
             << Verdict(one.ratios.Median(), one.target) << " |\n";
     out << "\n| Growth, ms by rows |";
     for (double size : growths.empty() ? std::vector<double>() : growths.front().sizes)
-        out << ' ' << Number(size) << " |";
+        out << ' ' << static_cast<int>(size) << " |";
     out << " exponent | last step | of the baseline | last step |\n|---|";
     for (std::size_t i = 0; !growths.empty() && i < growths.front().sizes.size(); ++i)
         out << "--:|";

@@ -27,7 +27,7 @@ section_of_most() { sections_of "$@" | sort | uniq -c | sort -rn | awk 'NR == 1 
 
 keys_of() {
     found '\{\s*ID\w+\s*,\s*L"\K[^"]+' "$1"
-    found '(GetLanguageText\(|SetControlText\(\s*ID\w+\s*,|AddPage\([^;"]+,)\s*L"\K[^"]+' "$1"
+    found '(GetLanguageText\(|SetControlText\(\s*ID\w+\s*,|Add(Scheme)?Page\([^;"]+,)\s*L"\K[^"]+' "$1"
     found 'Format\(\s*L"\K[A-Z]+%d_[A-Z]+(?=")' "$1"
     [ -z "$(found 'ApplyTitle\(\)' "$1")" ] || say TITLE
 }

@@ -13,7 +13,7 @@ unset CMAKE_CXX_COMPILER_LAUNCHER CMAKE_C_COMPILER_LAUNCHER
 copy_sources() {
     rm -rf "$again"
     mkdir -p "$again"
-    (cd "$project" && git ls-files -z --cached --others --exclude-standard |
+    (cd "$project" && git -c safe.directory="$project" ls-files -z --cached --others --exclude-standard |
         while IFS= read -r -d '' file; do [ ! -e "$file" ] || printf '%s\0' "$file"; done |
         tar -c --null -T - | tar -x -C "$again")
 }

@@ -4,7 +4,7 @@
 
 namespace
 {
-// Only what is to be seen can hold it; asking the system takes longer.
+// A page that is hidden has been left: its controls need not ask the system.
 bool HoldsFocus(HWND hWnd)
 {
     const HWND hWndFocus = ::IsWindowVisible(hWnd) ? ::GetFocus() : nullptr;
@@ -44,7 +44,8 @@ int CDlgBase::ApplyTitle()
 void EnableControl(CWnd& control, bool bEnable)
 {
     const HWND hWnd = control.GetSafeHwnd();
-    if (!::IsWindowEnabled(hWnd) == !bEnable)
+    const bool bEnabled = ::IsWindowEnabled(hWnd) != FALSE;
+    if (bEnabled == bEnable)
         return;
     if (!bEnable && HoldsFocus(hWnd))
         ::SendMessage(::GetAncestor(hWnd, GA_ROOT), WM_NEXTDLGCTL, 0, 0);
@@ -53,8 +54,9 @@ void EnableControl(CWnd& control, bool bEnable)
 
 void ShowControl(CWnd& control, bool bShow)
 {
-    // Asking for what is there already costs as much as a change.
-    if (!(control.GetStyle() & WS_VISIBLE) == bShow)
+    // Showing what is shown would draw it again. Its own style, because a page in the background hides it too.
+    const bool bShown = (control.GetStyle() & WS_VISIBLE) != 0;
+    if (bShown != bShow)
         control.ShowWindow(bShow ? SW_SHOW : SW_HIDE);
 }
 

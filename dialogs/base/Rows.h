@@ -29,6 +29,14 @@ void Refill(List& list, Fill fill)
     fill();
 }
 
+// For rows that follow from their number alone: a list that has them already is not drawn anew.
+template <class List, class Fill>
+void RefillUnlessFull(List& list, int nRows, Fill fill)
+{
+    if (list.GetCount() != nRows)
+        Refill(list, fill);
+}
+
 // The row to select when one was deleted: the one that moved into its place, else the new last one; -1 for none.
 constexpr int RowAfterDelete(int nDeleted, int nCount)
 {

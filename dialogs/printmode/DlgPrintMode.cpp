@@ -227,10 +227,11 @@ void CDlgPrintMode::MoveLine(int nFrom, int nTo, int nSelect)
     IPrintMode* pMoved = ModeAt(nFrom);
     if (!pMoved || !ModeAt(nTo))
         return;
-    m_lstModes.SetRedraw(FALSE);
-    m_lstModes.DeleteString(static_cast<UINT>(nFrom));
-    InsertMode(nTo, pMoved);
-    m_lstModes.SetRedraw(TRUE);
+    {
+        const CRedrawOff redrawOff(m_lstModes);
+        m_lstModes.DeleteString(static_cast<UINT>(nFrom));
+        InsertMode(nTo, pMoved);
+    }
     m_lstModes.SetCurSel(nSelect);
     SelectMode(true);
 }

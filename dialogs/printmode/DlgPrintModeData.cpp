@@ -11,6 +11,7 @@
 #include "resources/resource.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace
 {

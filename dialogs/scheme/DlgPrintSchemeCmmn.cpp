@@ -196,7 +196,7 @@ void CDlgPrintSchemeCmmn::FillWaves()
     IPrintScheme* pScheme = FactoryScheme();
     const int nCurrent = pScheme ? pScheme->GetWave() : -1;
     const int nCount = std::min(ParamValue(TABLE_WAVEFORM_COUNT, 0), MAX_WAVES);
-    const auto fill = [&] {
+    RefillUnlessFull(m_cmbWave, std::max(nCount, 0) + 1, [&] {
         AddRow(m_cmbWave, GetLanguageText(L"UNLIMIT", L""), -1);
         const CString strWave = nCount > 0 ? GetLanguageText(L"WAVE", L"波形") : CString();
         for (int i = 0; i < nCount; ++i)
@@ -205,9 +205,7 @@ void CDlgPrintSchemeCmmn::FillWaves()
             strRow.Format(L"%s%d", strWave.GetString(), i);
             m_cmbWave.AddString(strRow);
         }
-    };
-    if (m_cmbWave.GetCount() != std::max(nCount, 0) + 1)
-        Refill(m_cmbWave, fill);
+    });
     m_cmbWave.SetCurSel(nCurrent >= 0 && nCurrent < nCount ? nCurrent + 1 : 0);
 }
 

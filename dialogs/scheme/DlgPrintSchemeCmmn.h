@@ -2,7 +2,6 @@
 
 #include "dialogs/scheme/SchemePage.h"
 
-class IActiveSetup;
 class ILayout;
 
 // General settings of a scheme. A user scheme's own record holds name, speed, direction, material and channel; the

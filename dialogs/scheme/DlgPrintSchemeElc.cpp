@@ -229,7 +229,7 @@ void CDlgPrintSchemeElc::FillTypes()
 void CDlgPrintSchemeElc::FillLevels()
 {
     const bool bCustom = ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0;
-    const auto fill = [&] {
+    RefillUnlessFull(m_cmbEclosionLevel, LEVEL_ROW_CUSTOM + (bCustom ? 1 : 0), [&] {
         m_cmbEclosionLevel.AddString(GetLanguageText(L"CLOSE_ECLOSION", L"Close Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"LIGHT_ECLOSION", L"Light Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"NORMAL_ECLOSION", L"Normal Eclosion"));
@@ -237,8 +237,6 @@ void CDlgPrintSchemeElc::FillLevels()
         m_cmbEclosionLevel.AddString(GetLanguageText(L"SUPER_ECLOSION", L"Super Eclosion"));
         if (bCustom)
             m_cmbEclosionLevel.AddString(GetLanguageText(L"CUSTOM_ECLOSION", L"Custom Eclosion"));
-    };
-    if (m_cmbEclosionLevel.GetCount() != LEVEL_ROW_CUSTOM + (bCustom ? 1 : 0))
-        Refill(m_cmbEclosionLevel, fill);
+    });
     m_cmbEclosionLevel.SetCurSel(LevelRowOfCode(ValueOf([](auto& scheme) { return scheme.GetEclosionLevel(); }, 0)));
 }

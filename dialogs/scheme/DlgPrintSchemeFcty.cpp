@@ -3,6 +3,7 @@
 #include "dialogs/base/HostContext.h"
 #include "dialogs/base/HostCount.h"
 #include "dialogs/base/HostText.h"
+#include "dialogs/base/Rows.h"
 #include "dialogs/scheme/DlgPrintSchemeCopyToConfig.h"
 #include "dialogs/scheme/SchemeNames.h"
 #include "host/IConfigList.h"
@@ -19,7 +20,7 @@ namespace
 constexpr std::int32_t SAVE_FACTORY_DATA = 2;
 
 // Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
-constexpr UINT WM_RIGHT_BUTTON_WENT_UP = WM_APP + 1;
+const UINT WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
 
 IFactorySchemeList* FactorySchemes()
 {
@@ -45,7 +46,7 @@ CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
     ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)
-    ON_MESSAGE(WM_RIGHT_BUTTON_WENT_UP, &CDlgPrintSchemeFcty::OnRightButtonUp)
+    ON_REGISTERED_MESSAGE(WM_RIGHT_BUTTON_WENT_UP, &CDlgPrintSchemeFcty::OnRightButtonUp)
 END_MESSAGE_MAP()
 
 int CDlgPrintSchemeFcty::ApplyLanguage()
@@ -56,13 +57,13 @@ int CDlgPrintSchemeFcty::ApplyLanguage()
 
 void CDlgPrintSchemeFcty::AddPages()
 {
-    AddPage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
-    AddPage(m_pageMode, IDD_SCHEME_MODE, L"TAB_MODE");
-    AddPage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
-    AddPage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
-    AddPage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
-    AddPage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
-    AddPage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
+    AddSchemePage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
+    AddSchemePage(m_pageMode, IDD_SCHEME_MODE, L"TAB_MODE");
+    AddSchemePage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
+    AddSchemePage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
+    AddSchemePage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
+    AddSchemePage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
+    AddSchemePage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
 }
 
 BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)
@@ -153,16 +154,20 @@ void CDlgPrintSchemeFcty::TrackCopyMenu(POINT ptScreen)
 
 void CDlgPrintSchemeFcty::FillSchemeList()
 {
-    m_lstSchemes.SetRedraw(FALSE);
-    m_lstSchemes.ResetContent();
     const int nConfig = m_lstConfigs.GetCurSel();
-    if (m_lstConfigs.GetCount() == 0 || nConfig < 0)
-        return; // redrawing stays off until the next fill
-    if (SelectedConfig())
-        AddSchemesOf(nConfig);
-    m_lstSchemes.SetCurSel(0);
-    m_lstSchemes.SetRedraw(TRUE);
-    if (SelectedConfig())
+    if (nConfig < 0)
+    {
+        m_lstSchemes.SetRedraw(FALSE); // until the next fill
+        m_lstSchemes.ResetContent();
+        return;
+    }
+    const bool bConfig = SelectedConfig() != nullptr;
+    Refill(m_lstSchemes, [&] {
+        if (bConfig)
+            AddSchemesOf(nConfig);
+        m_lstSchemes.SetCurSel(0);
+    });
+    if (bConfig)
         SelectScheme(true);
 }
 

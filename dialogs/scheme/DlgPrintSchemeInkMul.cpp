@@ -13,6 +13,8 @@
 #include "host/IUserScheme.h"
 #include "resources/resource.h"
 
+#include <algorithm>
+
 namespace
 {
 constexpr int MAX_MULTIPLE = 8;
@@ -105,15 +107,14 @@ void CDlgPrintSchemeInkMul::LoadRow(int nRow)
 
 void CDlgPrintSchemeInkMul::FillMultiples(CComboBox& combo, int nMultiple)
 {
-    if (combo.GetCount() != MAX_MULTIPLE) // the rows are always the same
-        Refill(combo, [&] {
-            for (int i = 1; i <= MAX_MULTIPLE; ++i)
-            {
-                CString strRow;
-                strRow.Format(L"%d", i);
-                AddRow(combo, strRow, i);
-            }
-        });
+    RefillUnlessFull(combo, MAX_MULTIPLE, [&] {
+        for (int i = 1; i <= MAX_MULTIPLE; ++i)
+        {
+            CString strRow;
+            strRow.Format(L"%d", i);
+            AddRow(combo, strRow, i);
+        }
+    });
     combo.SetCurSel(nMultiple >= 1 && nMultiple <= MAX_MULTIPLE ? nMultiple - 1 : 0);
 }
 
@@ -127,9 +128,8 @@ std::vector<IInkChannel*> CDlgPrintSchemeInkMul::ChannelsOfLayout() const
     channels.reserve(CHANNEL_ROOM);
     if (IInkChannelTable* pTable = GetHostContext().pData->GetInkChannels())
         pTable->GetChannelsOfLayout(pScheme->GetLayoutId(), &channels);
-    if (channels.size() > ROW_COUNT)
-        channels.resize(ROW_COUNT);
-    return channels;
+    const auto nRows = static_cast<std::ptrdiff_t>(std::min<std::size_t>(channels.size(), ROW_COUNT));
+    return {channels.begin(), channels.begin() + nRows};
 }
 
 bool CDlgPrintSchemeInkMul::HasLayout(std::uint8_t nLayoutId) const

@@ -107,6 +107,7 @@ int CDlgPrintSchemeMode::FillModes(IPrintConfig& config, int nModeIndex)
                 nFound = k;
         }
     });
+    m_cmbMode.SetCurSel(-1); // an empty list, too, must show that nothing is selected
     return nFound;
 }
 

@@ -27,9 +27,9 @@ BEGIN_MESSAGE_MAP(CDlgSchemeEditor, CDlgEditor)
     ON_BN_CLICKED(IDC_BTN_APPLY, &CDlgSchemeEditor::OnApply)
 END_MESSAGE_MAP()
 
-void CDlgSchemeEditor::AddPage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey)
+void CDlgSchemeEditor::AddSchemePage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey)
 {
-    CDlgEditor::AddPage(page, nTemplate, pszTabKey);
+    AddPage(page, nTemplate, pszTabKey);
     m_vecPages.push_back(&page);
 }
 

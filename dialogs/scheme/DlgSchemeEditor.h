@@ -36,7 +36,7 @@ protected:
     // Called when the pages were saved and before they show another scheme.
     virtual void OnShowingScheme(int) {}
 
-    void AddPage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey);
+    void AddSchemePage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey);
     void SelectScheme(bool bSaveFirst);
     // Adds a row for a scheme; negative when the list refuses it.
     int AddSchemeRow(LPCTSTR pszText, int nSchemeId);

@@ -39,12 +39,12 @@ void CDlgPrintSchemeUser::AddPages()
     for (CSchemePage* pPage : std::initializer_list<CSchemePage*>{&m_pageCommon, &m_pageEclosion, &m_pageInkMul,
                                                                   &m_pageInkCut, &m_pageUv, &m_pageSapp})
         pPage->m_bUserEditor = TRUE;
-    AddPage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
-    AddPage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
-    AddPage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
-    AddPage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
-    AddPage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
-    AddPage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
+    AddSchemePage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
+    AddSchemePage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
+    AddSchemePage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
+    AddSchemePage(m_pageInkCut, IDD_SCHEME_INK_CUT, L"TAB_INK_CUT");
+    AddSchemePage(m_pageUv, IDD_SCHEME_UV, L"TAB_UV");
+    AddSchemePage(m_pageSapp, IDD_SCHEME_SAPP, L"TAB_SAPP");
 }
 
 void CDlgPrintSchemeUser::OnAddScheme()

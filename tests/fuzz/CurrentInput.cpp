@@ -1,5 +1,7 @@
 #include "tests/fuzz/CurrentInput.h"
 
+#include "tests/support/RunLength.h"
+
 #include <filesystem>
 #include <fstream>
 
@@ -21,6 +23,6 @@ std::string KeepCurrentInput()
     std::ofstream(input.File(), std::ios::binary) << input.bytes;
     const std::string seed = std::to_string(input.seed);
     return "input " + std::to_string(input.number) + " of seed " + seed + ", kept in " + input.File() +
-           " beside the test program; again: ./test.sh --seed " + seed + " --filter '*" + input.kind + "*/" + seed +
-           "'";
+           " beside the test program; again: " +
+           CommandToRepeat(input.seed, std::string("*") + input.kind + "*/" + seed);
 }

@@ -35,7 +35,7 @@ Shown ShownRow(int dialog, int control, int row);
 Shown ShownText(int dialog, int control, const std::wstring& text);
 Shown ShownRows(int dialog, int control, const Texts& rows);
 
-// What the requirements make of an editor: it hears what the controls tell the dialogs, and knows from that what the
+// What an editor owes its host and its operator: it hears what the controls tell the dialogs, and knows from that what the
 // host's data must then be, what the controls must show, and what must be asked of the host.
 class EditorModel
 {

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-// Host texts as the requirements want them shown and taken, for a code page that is named, not the thread's.
+// Host texts as editors show and take them, for a code page that is named, not the thread's.
 
 std::wstring ToWide(const std::string& narrow, unsigned codePage);
 std::string ToNarrow(const std::wstring& wide, unsigned codePage);

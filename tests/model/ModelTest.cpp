@@ -37,6 +37,6 @@ std::string ModelTest::Reproduction() const
 {
     const std::string seed = std::to_string(GetParam());
     const std::string suite = testing::UnitTest::GetInstance()->current_test_info()->test_suite_name();
-    return "seed " + seed + ", the operator's actions:\n" + m_run.diary.Text() + "to see it again: ./test.sh --arch " +
-           (sizeof(void*) == 8 ? "x64" : "x86") + " --seed " + seed + " --filter '" + suite + ".*/" + seed + "'";
+    return "seed " + seed + ", the operator's actions:\n" + m_run.diary.Text() +
+           "to see it again: " + CommandToRepeat(GetParam(), suite + ".*/" + seed);
 }

@@ -2,6 +2,7 @@
 
 #include "tests/editors/EditorTest.h"
 #include "tests/model/RandomOperator.h"
+#include "tests/support/RunLength.h"
 
 // One run of an editor over a random machine: the seed is the test's parameter. Afterwards the host must have the
 // model's machine and the model's save requests, no more and no fewer.

@@ -173,7 +173,7 @@ protected:
 
 TEST_F(ChannelArray, NeverGrowsInTheHostsHeap)
 {
-    constexpr unsigned kMostChannels = 256;
+    constexpr unsigned kMostChannels = 65536; // one for every id
     m_host.Api().SetChannelCount(kMostChannels);
     Edit(Editor::FactorySchemes, ExpectFactoryEditor, [](FactoryEditor& editor) {
         editor.Schemes().ClickRow(1);

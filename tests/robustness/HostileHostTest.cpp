@@ -55,8 +55,8 @@ void HostileRun::MeetHostileHost(unsigned seed)
     refhost::Host sound(WholeMachine(), Faults());
     sound.Log().SetLevel(refhost::CallLog::Level::Nothing);
     HostileHost host(sound, Temper(seed));
-    SCOPED_TRACE("./test.sh --seed " + std::to_string(seed) + " --filter '*HostileRun*/" + std::to_string(seed) +
-                 "'; the host's faults " + host.Describe());
+    SCOPED_TRACE(CommandToRepeat(seed, "*HostileRun*/" + std::to_string(seed)) + "; the host's faults " +
+                 host.Describe());
     const auto script = [seed](Operator& op) {
         op.ExpectAnyDialog();
         op.WaitFor("the editor to open or to end", [&] { return op.HasEditorEnded() || op.TopDialog().Exists(); });

@@ -9,7 +9,7 @@ namespace
 {
 constexpr UINT kRun = WM_APP + 1;
 constexpr UINT kMark = WM_APP + 2;
-constexpr wchar_t kClassName[] = L"TestAgent";
+constexpr wchar_t kClassName[] = L"TestMarks";
 
 // A key becomes a character, a closing window becomes a command: two steps are the longest way a message goes.
 constexpr int kMarksToSettle = 3;
@@ -23,23 +23,23 @@ UiThread* AgentOwner(HWND window)
 UiThread::UiThread() : m_id(GetCurrentThreadId())
 {
     WNDCLASSW windowClass{};
-    windowClass.lpfnWndProc = &AgentProc;
+    windowClass.lpfnWndProc = &WindowProc;
     windowClass.hInstance = GetModuleHandleW(nullptr);
     windowClass.lpszClassName = kClassName;
     RegisterClassW(&windowClass);
-    m_agent =
+    m_window =
         CreateWindowExW(0, kClassName, nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
-    if (!m_agent)
-        throw std::runtime_error("no window for the test agent");
-    SetWindowLongPtrW(m_agent, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
+    if (!m_window)
+        throw std::runtime_error("no window for the window for the marks");
+    SetWindowLongPtrW(m_window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
 UiThread::~UiThread()
 {
-    DestroyWindow(m_agent);
+    DestroyWindow(m_window);
 }
 
-LRESULT CALLBACK UiThread::AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CALLBACK UiThread::WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == kRun)
         (*reinterpret_cast<const std::function<void()>*>(lParam))();
@@ -52,7 +52,7 @@ LRESULT CALLBACK UiThread::AgentProc(HWND window, UINT message, WPARAM wParam, L
 
 void UiThread::Run(const std::function<void()>& action) const
 {
-    SendMessageW(m_agent, kRun, 0, reinterpret_cast<LPARAM>(&action));
+    SendMessageW(m_window, kRun, 0, reinterpret_cast<LPARAM>(&action));
 }
 
 bool UiThread::Settle()
@@ -67,7 +67,7 @@ bool UiThread::PassMark()
 {
     std::unique_lock<std::mutex> lock(m_mutex);
     const unsigned mark = ++m_sent;
-    PostMessageW(m_agent, kMark, mark, 0);
+    PostMessageW(m_window, kMark, mark, 0);
     return m_arrival.wait_for(lock, kWaitLimit, [&] { return m_arrived >= mark; });
 }
 
@@ -96,5 +96,5 @@ void UiThread::PumpUntil(const std::function<bool()>& condition) const
 
 void UiThread::Wake() const
 {
-    PostMessageW(m_agent, WM_NULL, 0, 0);
+    PostMessageW(m_window, WM_NULL, 0, 0);
 }

@@ -30,12 +30,12 @@ public:
     void Wake() const;
 
 private:
-    static LRESULT CALLBACK AgentProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    static LRESULT CALLBACK WindowProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
     bool PassMark();
     void Arrived(unsigned mark);
 
     DWORD m_id;
-    HWND m_agent;
+    HWND m_window;
     std::mutex m_mutex;
     std::condition_variable m_arrival;
     unsigned m_sent = 0;

@@ -17,7 +17,7 @@ TextBuffer& TextBuffer::Add(long long number)
 {
     if (number < 0)
         AddCharacter('-');
-    unsigned long rest = static_cast<unsigned long>(number < 0 ? -number : number);
+    auto rest = static_cast<unsigned long long>(number < 0 ? -number : number);
     char digits[20] = {};
     char* digit = digits + sizeof(digits) - 1;
     do
