@@ -35,8 +35,8 @@ Shown ShownRow(int dialog, int control, int row);
 Shown ShownText(int dialog, int control, const std::wstring& text);
 Shown ShownRows(int dialog, int control, const Texts& rows);
 
-// What an editor owes its host and its operator: it hears what the controls tell the dialogs, and knows from that what the
-// host's data must then be, what the controls must show, and what must be asked of the host.
+// What an editor owes its host and its operator: it hears what the controls tell the dialogs, and knows from that what
+// the host's data must then be, what the controls must show, and what must be asked of the host.
 class EditorModel
 {
 public:
