@@ -52,10 +52,10 @@ void FactoryModel::RemoveDeleted(const std::set<int>& ids)
         m_machine.factorySchemes.erase(m_machine.factorySchemes.begin() + *id);
 }
 
+// In an empty list, too: its first row has a height all the same.
 void FactoryModel::PointAt(int row)
 {
-    if (!m_rows.empty())
-        SelectRow(RowWithin(row, m_rows.size()), true);
+    SelectRow(RowWithin(row, m_rows.size()), true);
 }
 
 void FactoryModel::Command(int id)
