@@ -123,12 +123,32 @@ choose() {
 }
 drop_down_closed() { ! drop_down_row 0; }
 
-# type_into EDIT-NAME TEXT: over what stands there.
+# type_into EDIT-NAME TEXT: over what stands there. A character that the keyboard lacks is put on a spare key for the
+# moment; a busy program may hear of that too late and miss it, so another attempt goes more slowly.
 type_into() {
+    local delay
     click Edit "$1"
-    xdotool key --delay 20 ctrl+Home ctrl+shift+End
-    xdotool type --delay 20 "$2"
+    for delay in 20 200; do
+        enter_text "$2" "$delay"
+        ! soon text_is Edit "$1" "$2" || return 0
+    done
+    enter_text "$2" 1000
     until_true "$2 in $1" text_is Edit "$1" "$2"
+}
+
+# enter_text TEXT DELAY: in milliseconds.
+enter_text() {
+    xdotool key --delay 20 ctrl+Home ctrl+shift+End
+    xdotool type --delay "$2" "$1"
+}
+
+# soon COMMAND...: false where it is not true within some looks.
+soon() {
+    local looks
+    for ((looks = 0; looks < 20; ++looks)); do
+        ! { look && "$@"; } || return 0
+    done
+    return 1
 }
 
 press_key() { xdotool key --delay 20 "$1"; }

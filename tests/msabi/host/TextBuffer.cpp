@@ -17,7 +17,8 @@ TextBuffer& TextBuffer::Add(long long number)
 {
     if (number < 0)
         AddCharacter('-');
-    auto rest = static_cast<unsigned long long>(number < 0 ? -number : number);
+    // Of 32 bits, as every number here: a longer one would need the run-time library to divide it.
+    unsigned long rest = static_cast<unsigned long>(number < 0 ? -number : number);
     char digits[20] = {};
     char* digit = digits + sizeof(digits) - 1;
     do
