@@ -50,7 +50,11 @@ private:
 HostProgram::HostProgram(const std::wstring& arguments, const std::wstring& errorFile)
 {
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-    m_errors = CreateFileW(errorFile.c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+    // An earlier program that has just ended may hold it for a moment more.
+    const DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE;
+    m_errors = CreateFileW(errorFile.c_str(), GENERIC_WRITE, share, &inherited, CREATE_ALWAYS, 0, nullptr);
+    if (m_errors == INVALID_HANDLE_VALUE)
+        ADD_FAILURE() << "the file for the program's errors cannot be made: " << GetLastError();
     STARTUPINFOW start = {};
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
