@@ -58,27 +58,33 @@ Books& TheBooks()
     return books;
 }
 
+// What the module called before: its blocks must come from where it frees them once it is no longer counted.
+decltype(&std::malloc) originalMalloc;
+decltype(&std::calloc) originalCalloc;
+decltype(&std::realloc) originalRealloc;
+decltype(&std::free) originalFree;
+
 void* CountedMalloc(std::size_t size)
 {
-    return TheBooks().Add(std::malloc(size), size);
+    return TheBooks().Add(originalMalloc(size), size);
 }
 
 void* CountedCalloc(std::size_t count, std::size_t size)
 {
-    return TheBooks().Add(std::calloc(count, size), count * size);
+    return TheBooks().Add(originalCalloc(count, size), count * size);
 }
 
 // A block that cannot be moved stays, uncounted: there is no memory left for anything then.
 void* CountedRealloc(void* block, std::size_t size)
 {
     TheBooks().Remove(block);
-    return TheBooks().Add(std::realloc(block, size), size);
+    return TheBooks().Add(originalRealloc(block, size), size);
 }
 
 void CountedFree(void* block)
 {
     TheBooks().Remove(block);
-    std::free(block);
+    originalFree(block);
 }
 
 template <class Function>
@@ -92,6 +98,10 @@ LibraryHeap::LibraryHeap(HMODULE module)
     : m_malloc(module, "malloc", Address(&CountedMalloc)), m_calloc(module, "calloc", Address(&CountedCalloc)),
       m_realloc(module, "realloc", Address(&CountedRealloc)), m_free(module, "free", Address(&CountedFree))
 {
+    originalMalloc = m_malloc.Original<decltype(originalMalloc)>();
+    originalCalloc = m_calloc.Original<decltype(originalCalloc)>();
+    originalRealloc = m_realloc.Original<decltype(originalRealloc)>();
+    originalFree = m_free.Original<decltype(originalFree)>();
 }
 
 LibraryHeap::~LibraryHeap()
