@@ -69,9 +69,9 @@ private:
     {
         refhost::PrintConfig config;
         config.name = Name();
-        config.xResolution = static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 360, 720, 1440, 65535}));
-        config.yResolution = static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 600, 720, 1200}));
-        config.colorCount = static_cast<std::uint8_t>(m_chance.OneOf<int>({0, 4, 6, 255}));
+        config.xResolution = static_cast<std::uint16_t>(m_chance.OneOf({0, 360, 720, 1440, 65535}));
+        config.yResolution = static_cast<std::uint16_t>(m_chance.OneOf({0, 600, 720, 1200}));
+        config.colorCount = static_cast<std::uint8_t>(m_chance.OneOf({0, 4, 6, 255}));
         config.dotBits = static_cast<std::uint8_t>(m_chance.Below(4));
         config.enabled = !m_chance.OneIn(4);
         Repeat(Count(4), [&] { config.modes.push_back(Mode()); });
@@ -82,9 +82,9 @@ private:
     {
         refhost::PrintMode mode;
         mode.name = Name();
-        mode.passCount = static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 1, 2, 3, 4, 5, 6, 8, 12, 16, 65535}));
+        mode.passCount = static_cast<std::uint16_t>(m_chance.OneOf({0, 1, 2, 3, 4, 5, 6, 8, 12, 16, 65535}));
         mode.disabled = m_chance.OneIn(3);
-        mode.resident = static_cast<std::uint8_t>(m_chance.OneOf<int>({0, 1, 1, 2, 255}));
+        mode.resident = static_cast<std::uint8_t>(m_chance.OneOf({0, 1, 1, 2, 255}));
         mode.xResolutionIndex = m_chance.Between(-1, 4);
         for (auto* values : {&mode.smallDotCompensation, &mode.mediumDotCompensation, &mode.largeDotCompensation})
             Repeat(m_chance.Below(5), [&] { values->push_back(Compensation()); });
@@ -94,9 +94,9 @@ private:
         return mode;
     }
 
-    float Compensation() { return m_chance.OneOf<float>({0.0f, 1.5f, -2.25f, 0.1f, 123456.7f, 2e9f, 0.00001f}); }
+    float Compensation() { return m_chance.OneOf({0.0f, 1.5f, -2.25f, 0.1f, 123456.7f, 2e9f, 0.00001f}); }
 
-    std::uint8_t DataMode() { return static_cast<std::uint8_t>(m_chance.OneOf<int>({0, 1, 1, 2, 2, 3, 7, 255})); }
+    std::uint8_t DataMode() { return static_cast<std::uint8_t>(m_chance.OneOf({0, 1, 1, 2, 2, 3, 7, 255})); }
 
     void FillShared(refhost::SchemeValues& scheme)
     {
@@ -111,7 +111,7 @@ private:
                             &scheme.customRange})
             *range = m_chance.OneIn(25) ? Byte() : static_cast<std::uint8_t>(m_chance.Below(201));
         scheme.eclosionType = m_chance.OneIn(5) ? std::uint8_t{19} : MostlyByte(22);
-        scheme.customEclosionId = static_cast<std::uint32_t>(m_chance.OneOf<int>({0, 3, 70000}));
+        scheme.customEclosionId = static_cast<std::uint32_t>(m_chance.OneOf({0, 3, 70000}));
         scheme.eclosionLevel = MostlyByte(6);
         scheme.headEclosionType = MostlyByte(3);
         FillInks(scheme);
@@ -122,7 +122,7 @@ private:
     void FillInks(refhost::SchemeValues& scheme)
     {
         for (std::uint16_t& multiple : scheme.inkMultiple)
-            multiple = static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 9, 10, 20, 25, 35, 80, 90, 65535}));
+            multiple = static_cast<std::uint16_t>(m_chance.OneOf({0, 9, 10, 20, 25, 35, 80, 90, 65535}));
         for (std::uint8_t& cut : scheme.inkCut)
             cut = MostlyByte(101);
     }
@@ -139,9 +139,9 @@ private:
         scheme.waitStepStop = MostlyByte(2);
         scheme.wave = Signed({-1, 0, 1, 2, 3, 100, -128});
         scheme.layoutId = LayoutId();
-        scheme.headId = static_cast<std::uint8_t>(m_chance.OneOf<int>({10, 11, 12, 0, 255}));
+        scheme.headId = static_cast<std::uint8_t>(m_chance.OneOf({10, 11, 12, 0, 255}));
         scheme.smallFormatMode = MostlyByte(2);
-        scheme.smallFormatOffset = static_cast<std::uint16_t>(m_chance.OneOf<int>({0, 1, 32768, 65535}));
+        scheme.smallFormatOffset = static_cast<std::uint16_t>(m_chance.OneOf({0, 1, 32768, 65535}));
         return scheme;
     }
 
@@ -207,7 +207,7 @@ private:
     {
         refhost::HeadLayout head;
         head.name = Name();
-        head.id = static_cast<std::uint16_t>(m_chance.OneOf<int>({10, 11, 12, 300}));
+        head.id = static_cast<std::uint16_t>(m_chance.OneOf({10, 11, 12, 300}));
         head.layoutId = m_machine.layouts.empty() ? kNoLayout : m_chance.OneOf(m_machine.layouts).id;
         // A list of heads in which two have the same id tells nobody which of them is meant.
         for (const refhost::HeadLayout& other : m_machine.headLayouts)
@@ -217,7 +217,7 @@ private:
         return head;
     }
 
-    std::string DataModeName() { return m_chance.OneOf<std::string>({"None", "Normal", "NORMAL", "Fine", "no", ""}); }
+    std::string DataModeName() { return m_chance.OneOf({"None", "Normal", "NORMAL", "Fine", "no", ""}); }
 
     std::vector<std::uint32_t> Fits()
     {
@@ -226,7 +226,7 @@ private:
 
     std::vector<std::int32_t> EclosionTypes()
     {
-        std::vector<std::int32_t> entries(static_cast<std::size_t>(m_chance.OneOf<int>({0, 3, 20, 20, 22})));
+        std::vector<std::int32_t> entries(static_cast<std::size_t>(m_chance.OneOf({0, 3, 20, 20, 22})));
         for (std::int32_t& entry : entries)
             entry = m_chance.Below(3) - 1;
         if (entries.size() > 19)
@@ -243,7 +243,7 @@ private:
     void MakeCustomEclosions()
     {
         refhost::CustomEclosionSet& set = m_machine.customEclosions;
-        set.currentIndex = m_chance.OneOf<int>({0, 0, 1, 5, -1});
+        set.currentIndex = m_chance.OneOf({0, 0, 1, 5, -1});
         Repeat(m_chance.Below(7), [&] {
             refhost::CustomEclosion eclosion;
             eclosion.currentMode = m_chance.Below(3);

@@ -116,8 +116,8 @@ void SchemeOperator::UseEclosionPage()
     case 2:
         return Type(m_editor.Edit(kPage, IDC_EDIT_RANGE_SS + Luck().Below(4)), Luck().OneOf(kRanges));
     default:
-        return UseCombo(m_editor.Combo(kPage, Luck().OneOf<int>({IDC_CMB_ELC_TYPE, IDC_CMB_ELC_TYPE, IDC_CMB_ELC_LEVEL,
-                                                                 IDC_CMB_DOT_MODE, IDC_CMB_HEAD_ELC_TYPE})));
+        return UseCombo(m_editor.Combo(kPage, Luck().OneOf({IDC_CMB_ELC_TYPE, IDC_CMB_ELC_TYPE, IDC_CMB_ELC_LEVEL,
+                                                            IDC_CMB_DOT_MODE, IDC_CMB_HEAD_ELC_TYPE})));
     }
 }
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "refhost/Machine.h"
-#include "tests/model/Chance.h"
+#include "tests/support/Chance.h"
 #include "tests/model/Diary.h"
 #include "tests/model/Notice.h"
 

@@ -54,7 +54,7 @@ void BlindOperator::Gesture()
 {
     const Window dialog = m_operator.TopDialog();
     if (m_operator.OpenMenu().Exists())
-        PressKey(OneIn(2) ? VK_ESCAPE : OneIn(2) ? VK_DOWN : VK_RETURN);
+        PressKey(m_chance.OneIn(2) ? VK_ESCAPE : m_chance.OneIn(2) ? VK_DOWN : VK_RETURN);
     else if (dialog.Exists() && IsMessageBox(dialog.Handle()))
         PressButtonOf(dialog);
     else if (dialog.Exists() && dialog.IsEnabled())
@@ -64,20 +64,20 @@ void BlindOperator::Gesture()
 void BlindOperator::ActOn(const Window& dialog)
 {
     const std::vector<HWND> controls = ReachableControls(dialog.Handle());
-    const unsigned choice = Below(10);
+    const unsigned choice = m_chance.Below(10);
     if (choice == 0)
         PressSomeKey();
     else if (choice == 1)
         TurnWheel();
     else if (!controls.empty())
-        ActOnControl({m_operator, controls[Below(static_cast<unsigned>(controls.size()))]});
+        ActOnControl({m_operator, m_chance.OneOf(controls)});
 }
 
 void BlindOperator::ActOnControl(const Window& control)
 {
     const std::wstring name = control.ClassName();
     const int id = control.Id();
-    if ((id == IDOK || id == IDCANCEL) && !OneIn(4))
+    if ((id == IDOK || id == IDCANCEL) && !m_chance.OneIn(4))
         return; // the run would end too soon
     if (name == L"ListBox")
         ActOnList(control);
@@ -94,56 +94,56 @@ void BlindOperator::ActOnControl(const Window& control)
 void BlindOperator::ActOnList(const Window& list)
 {
     const POINT at = PointIn(list);
-    const unsigned choice = Below(8);
+    const unsigned choice = m_chance.Below(8);
     if (choice == 0)
         m_operator.DoubleClick(list, at);
     else if (choice == 1)
         m_operator.RightClick(list, at);
     else
         m_operator.Click(list, at);
-    if (OneIn(4))
-        PressKey(OneIn(2) ? VK_DOWN : VK_END);
+    if (m_chance.OneIn(4))
+        PressKey(m_chance.OneIn(2) ? VK_DOWN : VK_END);
 }
 
 void BlindOperator::ActOnTrackbar(const Window& trackbar)
 {
     const Trackbar control(m_operator, trackbar.Handle());
     const int keys[] = {VK_HOME, VK_END, VK_PRIOR, VK_NEXT, VK_LEFT, VK_RIGHT};
-    if (OneIn(2))
-        control.Press(keys[Below(std::size(keys))]);
+    if (m_chance.OneIn(2))
+        control.Press(m_chance.OneOf(keys));
     else
-        control.Track(static_cast<int>(Below(300)));
+        control.Track(static_cast<int>(m_chance.Below(300)));
 }
 
 void BlindOperator::TypeInto(const Window& edit)
 {
-    EditField(m_operator, edit.Handle()).Type(kTexts[Below(std::size(kTexts))]);
+    EditField(m_operator, edit.Handle()).Type(m_chance.OneOf(kTexts));
 }
 
 void BlindOperator::ChooseFrom(const Window& combo)
 {
     m_operator.Click(combo, PointIn(combo));
-    for (unsigned steps = Below(4); steps > 0; --steps)
-        PressKey(OneIn(3) ? VK_UP : VK_DOWN);
-    PressKey(OneIn(4) ? VK_ESCAPE : VK_RETURN);
+    for (unsigned steps = m_chance.Below(4); steps > 0; --steps)
+        PressKey(m_chance.OneIn(3) ? VK_UP : VK_DOWN);
+    PressKey(m_chance.OneIn(4) ? VK_ESCAPE : VK_RETURN);
 }
 
 void BlindOperator::PressSomeKey()
 {
     const int keys[] = {VK_TAB,  VK_RETURN, VK_ESCAPE, VK_SPACE, VK_F4,   VK_UP,    VK_DOWN,
                         VK_LEFT, VK_RIGHT,  VK_HOME,   VK_END,   VK_NEXT, VK_PRIOR, VK_DELETE};
-    if (OneIn(4))
-        m_operator.Key(OneIn(2) ? VK_TAB : VK_NEXT, {true, OneIn(2), false});
-    else if (OneIn(4))
-        m_operator.TypeCharacters(kTexts[Below(std::size(kTexts))]);
+    if (m_chance.OneIn(4))
+        m_operator.Key(m_chance.OneIn(2) ? VK_TAB : VK_NEXT, {true, m_chance.OneIn(2), false});
+    else if (m_chance.OneIn(4))
+        m_operator.TypeCharacters(m_chance.OneOf(kTexts));
     else
-        PressKey(keys[Below(std::size(keys))]);
+        PressKey(m_chance.OneOf(keys));
 }
 
 void BlindOperator::TurnWheel()
 {
     const Window focus = m_operator.Focus();
-    const int delta = OneIn(2) ? WHEEL_DELTA : -WHEEL_DELTA;
+    const int delta = m_chance.OneIn(2) ? WHEEL_DELTA : -WHEEL_DELTA;
     if (focus.Exists())
         PostMessageW(focus.Handle(), WM_MOUSEWHEEL, static_cast<WPARAM>(MAKELONG(0, delta)), 0);
 }
@@ -151,7 +151,7 @@ void BlindOperator::TurnWheel()
 void BlindOperator::LeaveOnce(bool byForce)
 {
     const Window dialog = m_operator.TopDialog();
-    const unsigned way = byForce ? 1 + Below(2) : Below(4);
+    const unsigned way = byForce ? 1 + m_chance.Below(2) : m_chance.Below(4);
     if (m_operator.OpenMenu().Exists())
         PressKey(VK_ESCAPE);
     else if (!dialog.Exists())
@@ -179,7 +179,7 @@ POINT BlindOperator::PointIn(const Window& window)
 {
     const RECT area = window.ClientArea();
     const auto within = [this](LONG size) {
-        return static_cast<LONG>(Below(static_cast<unsigned>(std::max(1L, size))));
+        return static_cast<LONG>(m_chance.Below(static_cast<unsigned>(std::max(1L, size))));
     };
     return {within(area.right), within(area.bottom)};
 }

@@ -1,15 +1,14 @@
 #pragma once
 
+#include "tests/support/Chance.h"
 #include "tests/support/Operator.h"
-
-#include <random>
 
 // Acts at random on whatever is to be seen, as somebody does who understands nothing of it: on the innermost dialog,
 // on controls that are visible and enabled only.
 class BlindOperator
 {
 public:
-    BlindOperator(Operator& op, unsigned seed) : m_operator(op), m_random(seed) {}
+    BlindOperator(Operator& op, unsigned seed) : m_operator(op), m_chance(seed) {}
 
     // Some gestures; fewer where the editor ends before.
     void Act(int gestures);
@@ -17,9 +16,6 @@ public:
     void Leave();
 
 private:
-    unsigned Below(unsigned limit) { return static_cast<unsigned>(m_random() % limit); }
-    bool OneIn(unsigned chances) { return Below(chances) == 0; }
-
     void Gesture();
     void ActOn(const Window& dialog);
     void ActOnControl(const Window& control);
@@ -36,5 +32,5 @@ private:
     void PressKey(int virtualKey);
 
     Operator& m_operator;
-    std::mt19937 m_random;
+    Chance m_chance;
 };

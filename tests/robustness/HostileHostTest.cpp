@@ -60,7 +60,7 @@ void HostileRun::MeetHostileHost(unsigned seed)
     const auto script = [seed](Operator& op) {
         op.ExpectAnyDialog();
         op.WaitFor("the editor to open or to end", [&] { return op.HasEditorEnded() || op.TopDialog().Exists(); });
-        BlindOperator hand(op, seed);
+        BlindOperator hand(op, ~seed); // whose choices must not follow the host's
         hand.Act(kGestures);
         hand.Leave();
     };

@@ -13,10 +13,10 @@ constexpr std::uint32_t kLongestText = 5000;
 constexpr std::uint32_t kManyRows = 300;
 } // namespace
 
-Temper::Temper(unsigned seed) : m_random(seed)
+Temper::Temper(unsigned seed) : m_chance(seed)
 {
     constexpr unsigned quietCalls[] = {0, 0, 200, 2000, 8000};
-    m_quietCalls = quietCalls[Below(std::size(quietCalls))];
+    m_quietCalls = m_chance.OneOf(quietCalls);
     m_nulls = Frequency(300);
     m_strangers = Frequency(100);
     m_texts = Frequency(500);
@@ -31,30 +31,30 @@ Temper::Temper(unsigned seed) : m_random(seed)
 // Half of the hosts do not have the fault; of the others most have it seldom, so that an editor gets far.
 unsigned Temper::Frequency(unsigned atMost)
 {
-    if (Below(2) == 0)
+    if (m_chance.Below(2) == 0)
         return 0;
     const unsigned divisors[] = {1, 10, 100};
-    return std::max(1u, atMost / divisors[Below(3)]);
+    return std::max(1u, atMost / divisors[m_chance.Below(3)]);
 }
 
 bool Temper::Happens(unsigned frequency)
 {
-    return frequency > 0 && m_calls > m_quietCalls && Below(kThousand) < frequency;
+    return frequency > 0 && m_calls > m_quietCalls && m_chance.Below(kThousand) < frequency;
 }
 
 std::uint32_t Temper::Count(std::uint32_t sound)
 {
-    const std::uint32_t counts[] = {0,         sound - 1,   sound + 1,   Below(20),   Below(kManyRows),
-                                    1'000'001, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFEu, 0xFFFFFFFFu};
-    return counts[Below(std::size(counts))];
+    const std::uint32_t counts[] = {0,         sound - 1,   sound + 1,   m_chance.Below(20u), m_chance.Below(kManyRows),
+                                    1'000'001, 0x7FFFFFFFu, 0x80000000u, 0xFFFFFFFEu,         0xFFFFFFFFu};
+    return m_chance.OneOf(counts);
 }
 
 std::uint64_t Temper::Number()
 {
     constexpr std::int64_t numbers[] = {0,   -1,  -2,   1,    2,     100,   127,   128,   200,        255,
                                         256, 999, 1000, 1001, 32767, 32768, 65535, 65536, 0x7FFFFFFF, -0x7FFFFFFF - 1};
-    const std::uint32_t chosen = Below(2 * std::size(numbers));
-    return chosen < std::size(numbers) ? static_cast<std::uint64_t>(numbers[chosen]) : Bits();
+    const std::size_t chosen = m_chance.Below(2 * std::size(numbers));
+    return chosen < std::size(numbers) ? static_cast<std::uint64_t>(numbers[chosen]) : m_chance.Bits();
 }
 
 float Temper::Float()
@@ -68,18 +68,18 @@ float Temper::Float()
                             Limits::denorm_min(),
                             -0.0f,
                             1e-30f};
-    return floats[Below(std::size(floats))];
+    return m_chance.OneOf(floats);
 }
 
 // Any bytes but zero: most are no text of any code page.
 std::string Temper::Text()
 {
     const std::uint32_t lengths[] = {0, 1, 2, 59, 60, 61, 62, 63, 64, 255, 259, 260, 261, 1023, 1024};
-    const std::uint32_t chosen = Below(2 * std::size(lengths));
-    std::string text(chosen < std::size(lengths) ? lengths[chosen] : Below(kLongestText + 1), '\0');
-    const bool isPercent = Below(8) == 0;
+    const std::size_t chosen = m_chance.Below(2 * std::size(lengths));
+    std::string text(chosen < std::size(lengths) ? lengths[chosen] : m_chance.Below(kLongestText + 1), '\0');
+    const bool isPercent = m_chance.Below(8) == 0;
     for (char& character : text)
-        character = isPercent ? "%sn\\"[Below(4)] : static_cast<char>(1 + Below(255));
+        character = isPercent ? "%sn\\"[m_chance.Below(4)] : static_cast<char>(1 + m_chance.Below(255));
     return text;
 }
 

@@ -1,7 +1,8 @@
 #pragma once
 
+#include "tests/support/Chance.h"
+
 #include <cstdint>
-#include <random>
 #include <string>
 
 // How a hostile host behaves in one run: which faults it has, how often, and from when on. The seed decides.
@@ -68,12 +69,12 @@ public:
     std::string Text();
     std::uint32_t Bits()
     {
-        return static_cast<std::uint32_t>(m_random());
+        return m_chance.Bits();
     }
-    // From 0 up to the limit, which is left out.
-    std::uint32_t Below(std::uint32_t limit)
+    // Which of so many.
+    std::uint32_t Below(std::uint32_t count)
     {
-        return limit == 0 ? 0 : Bits() % limit;
+        return m_chance.Below(count);
     }
 
     std::string Describe() const;
@@ -83,7 +84,7 @@ private:
     unsigned Frequency(unsigned atMost);
     bool Happens(unsigned frequency);
 
-    std::mt19937 m_random;
+    Chance m_chance{0};
     unsigned m_calls = 0;
     unsigned m_quietCalls = 0;
     unsigned m_nulls = 0, m_strangers = 0, m_texts = 0, m_numbers = 0, m_counts = 0;
