@@ -4,7 +4,7 @@
 #include "host/IHostControl.h"
 #include "resources/resource.h"
 
-CDlgEditor::CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, std::int32_t nSaveKind)
+CDlgEditor::CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, SaveKind nSaveKind)
     : CDialogEx(nIDTemplate), m_pszSection(pszSection), m_nSaveKind(nSaveKind)
 {
 }
@@ -54,7 +54,7 @@ void CDlgEditor::OnOK()
     StoreEdits();
     CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
     const CWaitCursor wait;
-    GetHostContext().pControl->SaveParameters(static_cast<std::uint32_t>(m_nSaveKind));
+    GetHostContext().pControl->SaveParameters(m_nSaveKind);
 }
 
 // Over the placeholder of the same id, and after it in the tab order.

@@ -8,6 +8,13 @@
 
 #include <cstdint>
 
+// What SaveParameters gets.
+enum SaveKind : std::uint32_t
+{
+    SAVE_FACTORY_DATA = 2,
+    SAVE_USER_DATA = 3,
+};
+
 // What all editors share: the list of the host's configurations, the pages in a tab control, and the buttons that end
 // the run. OK asks the host to save; every other way of closing asks nothing and undoes nothing.
 class CDlgEditor : public CDialogEx, public CDlgBase
@@ -17,8 +24,8 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
 
 protected:
-    // The language section of the editor's own texts, and what SaveParameters gets.
-    CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, std::int32_t nSaveKind);
+    // The language section of the editor's own texts.
+    CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, SaveKind nSaveKind);
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
@@ -42,6 +49,6 @@ private:
     void CreateTab();
 
     LPCTSTR m_pszSection;
-    std::int32_t m_nSaveKind;
+    SaveKind m_nSaveKind;
     CMFCTabCtrl m_tab;
 };

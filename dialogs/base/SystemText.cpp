@@ -4,7 +4,7 @@
 
 namespace
 {
-std::wstring ToWide(std::string_view bytes, UINT codePage)
+std::wstring Widen(std::string_view bytes, UINT codePage)
 {
     const int count = static_cast<int>(bytes.size());
     std::wstring text(static_cast<size_t>(MultiByteToWideChar(codePage, 0, bytes.data(), count, nullptr, 0)), L'\0');
@@ -15,10 +15,10 @@ std::wstring ToWide(std::string_view bytes, UINT codePage)
 
 std::wstring AnsiToWide(std::string_view bytes)
 {
-    return ToWide(bytes, CP_ACP);
+    return Widen(bytes, CP_ACP);
 }
 
 std::wstring Utf8ToWide(std::string_view bytes)
 {
-    return ToWide(bytes, CP_UTF8);
+    return Widen(bytes, CP_UTF8);
 }

@@ -18,7 +18,6 @@
 
 namespace
 {
-constexpr std::int32_t SAVE_FACTORY_DATA = 2;
 
 // A configuration on loan from the host; it goes back whatever happens.
 class CNewConfig

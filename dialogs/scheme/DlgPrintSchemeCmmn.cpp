@@ -222,8 +222,7 @@ void CDlgPrintSchemeCmmn::FillChannels()
             IChannelSetup* pSetup = pList->GetAt(static_cast<std::uint32_t>(i));
             if (!pSetup || pSetup->FindSetup(pActive->GetId()) < 0)
                 continue;
-            const CString strName = HostText(pSetup->GetName());
-            AddRow(m_cmbChannel, GetLanguageText(strName, strName), i);
+            AddRow(m_cmbChannel, TranslatedName(pSetup->GetName()), i);
             if (i == nCurrent)
                 nSelect = i; // the stored index is used as the row, whatever was left out before it
         }

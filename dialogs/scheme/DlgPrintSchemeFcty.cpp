@@ -17,8 +17,6 @@
 
 namespace
 {
-constexpr std::int32_t SAVE_FACTORY_DATA = 2;
-
 // Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
 const UINT WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
 
@@ -42,7 +40,7 @@ void CopyParams(IPrintScheme& target, IPrintScheme* pSource)
 }
 } // namespace
 
-CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, 0, SAVE_FACTORY_DATA) {}
+CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, FALSE) {}
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
     ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)

@@ -2,7 +2,6 @@
 
 #include "dialogs/base/HostContext.h"
 #include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
 #include "host/IActiveSetup.h"
 #include "host/IHostData.h"
 #include "host/IInkChannel.h"
@@ -151,8 +150,7 @@ void CDlgPrintSchemeInkCut::ShowRow(int nRow, bool bShow)
 
 void CDlgPrintSchemeInkCut::LoadRow(size_t nRow, IInkGroup& group)
 {
-    const CString strName = HostText(group.GetName());
-    ShowText(m_lblColor[nRow], GetLanguageText(strName, strName));
+    ShowText(m_lblColor[nRow], TranslatedName(group.GetName()));
     IInkGroupTable* pTable = InkGroups();
     const std::uint8_t nColor = pTable ? pTable->GetColorIndex(group.GetId()) : std::uint8_t{0};
     const int nPercent = ValueOf([=](auto& scheme) { return scheme.GetInkCut(nColor); }, 0);

@@ -2,7 +2,6 @@
 
 #include "dialogs/base/HostContext.h"
 #include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
 #include "dialogs/base/Rows.h"
 #include "host/IHostData.h"
 #include "host/IInkChannel.h"
@@ -97,8 +96,7 @@ void CDlgPrintSchemeInkMul::LoadRow(int nRow)
 {
     const auto nIndex = static_cast<size_t>(nRow);
     IInkChannel& channel = *m_vecChannels[nIndex];
-    const CString strName = HostText(channel.GetName());
-    ShowText(m_lblColor[nIndex], GetLanguageText(strName, strName));
+    ShowText(m_lblColor[nIndex], TranslatedName(channel.GetName()));
     IInkChannelTable* pTable = GetHostContext().pData->GetInkChannels();
     const std::uint8_t nColor = pTable ? ColorIndexOf(*pTable, channel) : std::uint8_t{0};
     const int nTenths = ValueOf([=](auto& scheme) { return scheme.GetInkMultiple(nColor); }, 0);

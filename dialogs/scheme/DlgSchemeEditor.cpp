@@ -5,8 +5,9 @@
 #include "dialogs/scheme/ConfigNames.h"
 #include "resources/resource.h"
 
-CDlgSchemeEditor::CDlgSchemeEditor(UINT nIDTemplate, int nFirstDeletableId, std::int32_t nSaveKind)
-    : CDlgEditor(nIDTemplate, L"DLG_PRINT_SCHEME", nSaveKind), m_nFirstDeletableId(nFirstDeletableId)
+CDlgSchemeEditor::CDlgSchemeEditor(UINT nIDTemplate, BOOL bUserEditor)
+    : CDlgEditor(nIDTemplate, L"DLG_PRINT_SCHEME", bUserEditor ? SAVE_USER_DATA : SAVE_FACTORY_DATA),
+      m_bUserEditor(bUserEditor), m_nFirstDeletableId(bUserEditor ? FIRST_USER_SCHEME : 0)
 {
 }
 
@@ -29,6 +30,7 @@ END_MESSAGE_MAP()
 
 void CDlgSchemeEditor::AddSchemePage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey)
 {
+    page.m_bUserEditor = m_bUserEditor;
     AddPage(page, nTemplate, pszTabKey);
     m_vecPages.push_back(&page);
 }

@@ -4,7 +4,6 @@
 #include "dialogs/scheme/PendingDeletions.h"
 #include "dialogs/scheme/SchemePage.h"
 
-#include <cstdint>
 #include <vector>
 
 class IPrintConfig;
@@ -14,7 +13,7 @@ class IPrintConfig;
 class CDlgSchemeEditor : public CDlgEditor
 {
 protected:
-    CDlgSchemeEditor(UINT nIDTemplate, int nFirstDeletableId, std::int32_t nSaveKind);
+    CDlgSchemeEditor(UINT nIDTemplate, BOOL bUserEditor);
 
     void DoDataExchange(CDataExchange* pDX) override;
     void FillLists() override;
@@ -55,5 +54,6 @@ private:
 
     std::vector<CSchemePage*> m_vecPages;
     CPendingDeletions m_deletions;
+    BOOL m_bUserEditor;
     int m_nFirstDeletableId;
 };

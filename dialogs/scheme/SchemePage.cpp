@@ -1,5 +1,7 @@
 #include "dialogs/scheme/SchemePage.h"
 
+#include "dialogs/base/HostText.h"
+
 void CSchemePage::ShowScheme(int nSchemeId)
 {
     m_nSchemeId = nSchemeId;
@@ -12,6 +14,12 @@ void CSchemePage::ShowScheme(int nSchemeId)
 IPrintScheme* CSchemePage::FactoryScheme() const
 {
     return IsUserScheme() ? BaseSchemeOf(UserScheme()) : FactorySchemeAt(m_nSchemeId);
+}
+
+CString CSchemePage::TranslatedName(const char* pszNarrow) const
+{
+    const CString strName = HostText(pszNarrow);
+    return GetLanguageText(strName, strName);
 }
 
 int CSchemePage::AddRow(CComboBox& combo, LPCTSTR pszText, int nData)

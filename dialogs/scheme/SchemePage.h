@@ -52,6 +52,9 @@ protected:
         return nValue;
     }
 
+    // A host's name in the language that is set; the name itself where the page's section does not have it.
+    CString TranslatedName(const char* pszNarrow) const;
+
     // Adds a row with its item data and gives its position; a row that the control refuses has no data.
     static int AddRow(CComboBox& combo, LPCTSTR pszText, int nData);
     // The selected row's data; -1 without a selection.

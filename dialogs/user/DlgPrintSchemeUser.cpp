@@ -13,11 +13,8 @@
 #include "host/IUserScheme.h"
 #include "resources/resource.h"
 
-#include <initializer_list>
-
 namespace
 {
-constexpr std::int32_t SAVE_USER_DATA = 3;
 constexpr LPCTSTR DIVIDER = L"----------------------";
 
 IUserSchemeList* UserSchemes()
@@ -26,7 +23,7 @@ IUserSchemeList* UserSchemes()
 }
 } // namespace
 
-CDlgPrintSchemeUser::CDlgPrintSchemeUser() : CDlgSchemeEditor(IDD_SCHEME_USER, FIRST_USER_SCHEME, SAVE_USER_DATA) {}
+CDlgPrintSchemeUser::CDlgPrintSchemeUser() : CDlgSchemeEditor(IDD_SCHEME_USER, TRUE) {}
 
 int CDlgPrintSchemeUser::ApplyLanguage()
 {
@@ -36,9 +33,6 @@ int CDlgPrintSchemeUser::ApplyLanguage()
 
 void CDlgPrintSchemeUser::AddPages()
 {
-    for (CSchemePage* pPage : std::initializer_list<CSchemePage*>{&m_pageCommon, &m_pageEclosion, &m_pageInkMul,
-                                                                  &m_pageInkCut, &m_pageUv, &m_pageSapp})
-        pPage->m_bUserEditor = TRUE;
     AddSchemePage(m_pageCommon, IDD_SCHEME_CMMN, L"TAB_COMMON");
     AddSchemePage(m_pageEclosion, IDD_SCHEME_ELC, L"TAB_ELC");
     AddSchemePage(m_pageInkMul, IDD_SCHEME_INK_MUL, L"TAB_INK_MUL");
