@@ -145,6 +145,11 @@ TEST_P(ChangePaint, ComesOnceToWhatIsToBeSeen)
         const Messages messages = m_log.Take();
         EXPECT_EQ(Count(messages, IsLabelSet), 0);
         EXPECT_EQ(Count(messages, IsPlaced), 0);
+        const HWND page = editor.Page(GetParam().page).Handle();
+        const auto changesPage = [page](const LoggedMessage& one) {
+            return IsChild(page, one.window) && ChangesContent(one);
+        };
+        EXPECT_GT(Count(messages, changesPage), 0);
         int pageWindows = 0;
         for (const auto& [window, count] : Paints(messages))
         {
@@ -152,7 +157,7 @@ TEST_P(ChangePaint, ComesOnceToWhatIsToBeSeen)
                 continue; // it marks the tab under the mouse, some time after the mouse has moved
             EXPECT_EQ(count, 1) << Name(window);
             EXPECT_TRUE(IsWindowVisible(window)) << Name(window);
-            pageWindows += IsChild(editor.Page(GetParam().page).Handle(), window) ? 1 : 0;
+            pageWindows += IsChild(page, window) ? 1 : 0;
         }
         EXPECT_LE(pageWindows, GetParam().windows);
         editor.Cancel();
