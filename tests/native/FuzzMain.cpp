@@ -3,6 +3,7 @@
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
+#include <fcntl.h>
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sanitizer/common_interface_defs.h>
@@ -30,17 +31,16 @@ namespace
 // Far beyond what any test case takes.
 constexpr unsigned kSecondsOfACase = 300;
 
-// Told by the program's own means: they need no memory from a heap that may be broken.
+// Without the C library's files: they take memory, and the heap may be broken.
 void KeepInputOfTheEnd()
 {
     const FuzzInput& input = CurrentInput();
     char file[200] = {};
     std::snprintf(file, sizeof file, "fuzz/%s-%u-%u.bin", input.kind, input.seed, input.number);
-    if (std::FILE* const kept = std::fopen(file, "wb"))
-    {
-        std::fwrite(input.bytes.data(), 1, input.bytes.size(), kept);
-        std::fclose(kept);
-    }
+    const int kept = open(file, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    if (kept < 0 || write(kept, input.bytes.data(), input.bytes.size()) < 0)
+        std::perror(file);
+    close(kept);
     std::fprintf(stderr, "Ended by input %u of seed %u, kept in %s; again: ./test.sh --seed %u --filter '*%s*/%u'\n",
                  input.number, input.seed, file, input.seed, input.kind, input.seed);
 }
