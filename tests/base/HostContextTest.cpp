@@ -1,6 +1,7 @@
 #include "dialogs/base/HostContext.h"
 
-#include "tests/base/TempFolder.h"
+#include "tests/support/BesideProgram.h"
+#include "tests/support/TempFolder.h"
 
 #include <gtest/gtest.h>
 #include <windows.h>
@@ -11,10 +12,7 @@ constexpr const wchar_t* kFileName = L"Quorvane.ini";
 
 std::wstring SettingsFile()
 {
-    wchar_t path[MAX_PATH]{};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program = path;
-    return program.substr(0, program.rfind(L'\\') + 1) + L"Project.ini";
+    return BesideProgram(L"Project.ini");
 }
 
 class HostContextTest : public testing::Test

@@ -1,6 +1,6 @@
 #include "tests/base/IniGenerator.h"
 
-#include "tests/base/Utf16.h"
+#include "tests/support/Utf16.h"
 
 namespace
 {

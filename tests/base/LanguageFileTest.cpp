@@ -2,11 +2,11 @@
 
 #include "tests/base/IniGenerator.h"
 #include "tests/base/LanguageCases.h"
-#include "tests/base/TempFolder.h"
-#include "tests/base/Utf16.h"
 #include "tests/fuzz/CurrentInput.h"
 #include "tests/fuzz/LanguageInputs.h"
 #include "tests/support/RunLength.h"
+#include "tests/support/TempFolder.h"
+#include "tests/support/Utf16.h"
 
 #include <gtest/gtest.h>
 #include <vector>

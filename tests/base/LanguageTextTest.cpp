@@ -1,7 +1,7 @@
 #include "dialogs/base/LanguageText.h"
 
 #include "tests/base/LanguageCases.h"
-#include "tests/base/Utf16.h"
+#include "tests/support/Utf16.h"
 
 #include <gtest/gtest.h>
 

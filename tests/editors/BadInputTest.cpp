@@ -1,5 +1,6 @@
 #include "refhost/MachineFile.h"
 #include "tests/editors/PrintModeTest.h"
+#include "tests/support/BesideProgram.h"
 #include "tests/support/ThreadLocale.h"
 
 #include <algorithm>
@@ -352,14 +353,6 @@ TEST_F(BadInput, BoundaryValuesOfAConfigurationAreShown)
     Look([](PrintModeEditor& editor) { EXPECT_EQ(editor.Configs().Row(0), L"Fast [65535X65535][255C][255B]"); });
 }
 
-std::wstring SamplePath()
-{
-    wchar_t path[MAX_PATH + 1]{};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program(path);
-    return program.substr(0, program.rfind(L'\\')) + L"\\samples\\machine.json";
-}
-
 // What stays when a mode was shown and stored: a pass count that is not offered becomes one, and a data mode of 0 none.
 void TakeAsShown(refhost::PrintMode& mode)
 {
@@ -372,7 +365,7 @@ void TakeAsShown(refhost::PrintMode& mode)
 TEST_F(BadInput, WalkingThroughTheSampleMachineChangesOnlyWhatThePagesCannotShow)
 {
     const ThreadLocale chinese(0x0804);
-    m_machine = refhost::LoadMachine(SamplePath());
+    m_machine = refhost::LoadMachine(BesideProgram(L"samples\\machine.json"));
     Look([](PrintModeEditor& editor) {
         for (int config = 0; config < editor.Configs().RowCount(); ++config)
         {

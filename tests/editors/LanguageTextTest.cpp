@@ -1,6 +1,6 @@
-#include "tests/base/Utf16.h"
 #include "tests/editors/PrintModeTest.h"
 #include "tests/support/ThreadLocale.h"
+#include "tests/support/Utf16.h"
 
 namespace
 {

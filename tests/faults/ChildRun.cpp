@@ -1,18 +1,12 @@
 #include "tests/faults/ChildRun.h"
 
+#include "tests/support/BesideProgram.h"
+
 #include <stdexcept>
 #include <windows.h>
 
 namespace
 {
-std::wstring BesideTests(const std::wstring& name)
-{
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program = path;
-    return program.substr(0, program.find_last_of(L'\\') + 1) + name;
-}
-
 std::string ReadAll(HANDLE pipe)
 {
     std::string all;
@@ -42,7 +36,7 @@ ChildRun RunChild(const std::wstring& program, const std::wstring& arguments)
     HANDLE writing = nullptr;
     CreatePipe(&reading, &writing, &inherited, 0);
     SetHandleInformation(reading, HANDLE_FLAG_INHERIT, 0);
-    const PROCESS_INFORMATION process = Start(L"\"" + BesideTests(program) + L"\" " + arguments, writing);
+    const PROCESS_INFORMATION process = Start(L"\"" + BesideProgram(program) + L"\" " + arguments, writing);
     CloseHandle(writing); // else reading would never end
     ChildRun run = {0, ReadAll(reading)};
     WaitForSingleObject(process.hProcess, INFINITE);

@@ -1,14 +1,13 @@
 #include "tests/fuzz/LanguageInputs.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 #include <stdexcept>
 
 #include "tests/base/IniGenerator.h"
-#include "tests/base/Utf16.h"
 #include "tests/fuzz/ByteMutations.h"
 #include "tests/fuzz/ReferenceLanguageText.h"
+#include "tests/support/FileContent.h"
+#include "tests/support/Utf16.h"
 
 namespace
 {
@@ -33,15 +32,6 @@ const std::wstring kOddities[] = {L"[",       L"]",      L"=",
                                   L"\x85",    L"\x3000", L"\x2028",
                                   L"\xFFFF",  L"\x0130", L"[DLG_PRINT_MODE]\r\n",
                                   L"TITLE=",  L"OK",     std::wstring(1, L'\0')};
-
-std::string ReadFile(const std::string& path)
-{
-    std::ifstream file(path, std::ios::binary);
-    std::string bytes{std::istreambuf_iterator<char>(file), {}};
-    if (bytes.empty())
-        throw std::runtime_error("cannot read " + path);
-    return bytes;
-}
 
 std::wstring TextOf(const std::string& utf16)
 {
@@ -128,7 +118,7 @@ LanguageInputs::LanguageInputs(const std::string& languages)
 {
     for (const char* tag : {"en", "zh-CN"})
     {
-        m_texts.push_back(TextOf(ReadFile(languages + "/" + tag + "/Quorvane.ini")));
+        m_texts.push_back(TextOf(ContentOf(languages + "/" + tag + "/Quorvane.ini")));
         const std::vector<std::wstring> lines = LinesOf(m_texts.back());
         m_lines.insert(m_lines.end(), lines.begin(), lines.end());
     }

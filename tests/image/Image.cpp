@@ -1,25 +1,13 @@
 #include "tests/image/Image.h"
 
+#include "tests/support/FileContent.h"
+
 #include <algorithm>
 #include <cctype>
-#include <cstdio>
 #include <stdexcept>
 
 namespace
 {
-std::string ReadFile(const std::wstring& path)
-{
-    std::string bytes;
-    std::FILE* const file = _wfopen(path.c_str(), L"rb");
-    if (!file)
-        throw std::runtime_error("the image cannot be opened");
-    char buffer[4096];
-    for (std::size_t count = 0; (count = std::fread(buffer, 1, sizeof buffer, file)) > 0;)
-        bytes.append(buffer, count);
-    std::fclose(file);
-    return bytes;
-}
-
 std::string SmallLetters(std::string text)
 {
     std::transform(text.begin(), text.end(), text.begin(),
@@ -28,7 +16,7 @@ std::string SmallLetters(std::string text)
 }
 } // namespace
 
-Image::Image(const std::wstring& path) : m_bytes(ReadFile(path))
+Image::Image(const std::wstring& path) : m_bytes(ContentOf(path))
 {
     if (Headers().Signature != IMAGE_NT_SIGNATURE || Headers().OptionalHeader.Magic != IMAGE_NT_OPTIONAL_HDR_MAGIC)
         throw std::runtime_error("the file is no image of this architecture");

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "refhost/Machine.h"
-#include "tests/support/Chance.h"
 #include "tests/model/Diary.h"
 #include "tests/model/Notice.h"
+#include "tests/support/Chance.h"
 
 #include <functional>
 

@@ -6,7 +6,8 @@
 #include "refhost/MachineFile.h"
 #include "refhost/program/LanguageFolders.h"
 #include "tests/refhost/SmallMachine.h"
-#include "tests/refhost/TemporaryFolder.h"
+#include "tests/support/FileContent.h"
+#include "tests/support/TempFolder.h"
 
 using namespace refhost;
 
@@ -25,7 +26,7 @@ protected:
 
     int PassesInFile() const { return LoadMachine(m_path).configurations[0].modes[0].passCount; }
 
-    TemporaryFolder m_folder;
+    TempFolder m_folder;
     std::wstring m_path = m_folder.PathOf(L"machine.json");
 };
 
@@ -104,7 +105,7 @@ TEST_F(MachineDocumentTest, BrokenFileIsRefused)
 
 TEST(LanguageFolders, EachFolderIsALanguage)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     CreateDirectoryW(folder.PathOf(L"zh-CN").c_str(), nullptr);
     CreateDirectoryW(folder.PathOf(L"en").c_str(), nullptr);
     WriteBytes(folder.PathOf(L"readme.txt"), "no language");

@@ -1,15 +1,24 @@
 #include "refhost/MachineFile.h"
 
+#include <filesystem>
 #include <gtest/gtest.h>
+#include <iterator>
 #include <windows.h>
 
 #include "tests/refhost/SmallMachine.h"
-#include "tests/refhost/TemporaryFolder.h"
+#include "tests/support/FileContent.h"
+#include "tests/support/TempFolder.h"
 
 using namespace refhost;
 
 namespace
 {
+
+std::ptrdiff_t FileCount(const TempFolder& folder)
+{
+    using Files = std::filesystem::directory_iterator;
+    return std::distance(Files(folder.Path()), Files());
+}
 
 std::string SaveError(const Machine& machine, const std::wstring& path)
 {
@@ -28,7 +37,7 @@ std::string SaveError(const Machine& machine, const std::wstring& path)
 
 TEST(MachineFile, RefusalNamesTheFileAndLeavesItUntouched)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     const std::wstring path = folder.PathOf(L"machine.json");
     const std::string content = SmallMachineWith("\"dotBits\": 2", "\"dotBits\": 300");
     WriteBytes(path, content);
@@ -43,19 +52,19 @@ TEST(MachineFile, RefusalNamesTheFileAndLeavesItUntouched)
             << error.what();
     }
     EXPECT_EQ(ContentOf(path), content);
-    EXPECT_EQ(folder.FileCount(), 1u);
+    EXPECT_EQ(FileCount(folder), 1);
 }
 
 TEST(MachineFile, MissingFileIsRefused)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     EXPECT_THROW(LoadMachine(folder.PathOf(L"none.json")), MachineFileError);
     EXPECT_THROW(LoadMachine(folder.PathOf(L"none\\machine.json")), MachineFileError);
 }
 
 TEST(MachineFile, SavedFileIsWholeAndAlone)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     const std::wstring path = folder.PathOf(L"\x673A\x5668.json");
     SaveMachine(SmallMachine(), path);
     Machine changed = SmallMachine();
@@ -63,18 +72,18 @@ TEST(MachineFile, SavedFileIsWholeAndAlone)
     SaveMachine(changed, path);
     EXPECT_EQ(ContentOf(path), FormatMachine(changed));
     EXPECT_EQ(LoadMachine(path).name, "Changed");
-    EXPECT_EQ(folder.FileCount(), 1u);
+    EXPECT_EQ(FileCount(folder), 1);
 }
 
 TEST(MachineFile, UnfinishedSaveOfACrashIsHarmless)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     const std::wstring path = folder.PathOf(L"machine.json");
     SaveMachine(SmallMachine(), path);
     WriteBytes(path + L".new", "{\"format\": \"quorv");
     EXPECT_EQ(LoadMachine(path).name, "Small");
     SaveMachine(SmallMachine(), path);
-    EXPECT_EQ(folder.FileCount(), 1u);
+    EXPECT_EQ(FileCount(folder), 1);
 }
 
 class FailingSave : public testing::Test
@@ -82,17 +91,17 @@ class FailingSave : public testing::Test
 protected:
     void SetUp() override { SaveMachine(SmallMachine(), m_path); }
 
-    void ExpectOldFileAfterFailure(std::size_t files = 1)
+    void ExpectOldFileAfterFailure(std::ptrdiff_t files = 1)
     {
         Machine changed = SmallMachine();
         changed.name = "Changed";
         EXPECT_NE(SaveError(changed, m_path).find("machine.json"), std::string::npos);
-        EXPECT_EQ(m_folder.FileCount(), files);
+        EXPECT_EQ(FileCount(m_folder), files);
     }
 
     void TearDown() override { EXPECT_EQ(ContentOf(m_path), FormatMachine(SmallMachine())); }
 
-    TemporaryFolder m_folder;
+    TempFolder m_folder;
     std::wstring m_path = m_folder.PathOf(L"machine.json");
 };
 
@@ -118,7 +127,7 @@ TEST_F(FailingSave, FileStaysWhenNothingCanBeWrittenBesideIt)
 
 TEST(MachineFile, MissingFolderIsAClearError)
 {
-    const TemporaryFolder folder;
+    const TempFolder folder;
     const std::string error = SaveError(SmallMachine(), folder.PathOf(L"none\\machine.json"));
     EXPECT_NE(error.find("cannot write"), std::string::npos) << error;
     EXPECT_NE(error.find("none\\machine.json"), std::string::npos) << error;

@@ -4,7 +4,9 @@
 #include "refhost/MachineFile.h"
 #include "refhost/program/Editors.h"
 #include "tests/refhost/SmallMachine.h"
-#include "tests/refhost/TemporaryFolder.h"
+#include "tests/support/BesideProgram.h"
+#include "tests/support/FileContent.h"
+#include "tests/support/TempFolder.h"
 
 using namespace refhost;
 
@@ -13,14 +15,6 @@ namespace
 
 // Far longer than anything takes; only what never comes gets there.
 constexpr ULONGLONG kWaitLimit = 60000;
-
-std::wstring BesideTests(const std::wstring& name)
-{
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program = path;
-    return program.substr(0, program.find_last_of(L'\\') + 1) + name;
-}
 
 // QuorvaneHost.exe, run with a command line and its standard error in a file.
 class HostProgram
@@ -59,7 +53,7 @@ HostProgram::HostProgram(const std::wstring& arguments, const std::wstring& erro
     start.cb = sizeof start;
     start.dwFlags = STARTF_USESTDHANDLES;
     start.hStdError = m_errors;
-    std::wstring commandLine = L"\"" + BesideTests(L"QuorvaneHost.exe") + L"\" " + arguments;
+    std::wstring commandLine = L"\"" + BesideProgram(L"QuorvaneHost.exe") + L"\" " + arguments;
     if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &start, &m_process))
         ADD_FAILURE() << "QuorvaneHost.exe cannot be started: " << GetLastError();
 }
@@ -117,7 +111,7 @@ protected:
 
     std::wstring MachineArgument() const { return L"--machine \"" + m_machine + L"\" "; }
 
-    TemporaryFolder m_folder;
+    TempFolder m_folder;
     std::wstring m_machine = m_folder.PathOf(L"machine.json");
     std::wstring m_errors = m_folder.PathOf(L"errors.txt");
 };

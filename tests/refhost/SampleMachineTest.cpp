@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <algorithm>
 #include <set>
 
 #include "refhost/MachineFile.h"
-#include "tests/refhost/TemporaryFolder.h"
+#include "tests/support/BesideProgram.h"
+#include "tests/support/FileContent.h"
 
 using namespace refhost;
 
@@ -14,10 +14,7 @@ namespace
 
 std::wstring SamplePath()
 {
-    wchar_t path[MAX_PATH] = {};
-    GetModuleFileNameW(nullptr, path, MAX_PATH);
-    const std::wstring program = path;
-    return program.substr(0, program.find_last_of(L'\\')) + L"\\samples\\machine.json";
+    return BesideProgram(L"samples\\machine.json");
 }
 
 class SampleMachine : public testing::Test

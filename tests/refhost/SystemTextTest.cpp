@@ -1,9 +1,9 @@
 #include "refhost/SystemText.h"
 
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include "refhost/NarrowText.h"
+#include "tests/support/ThreadLocale.h"
 
 using namespace refhost;
 
@@ -23,23 +23,19 @@ UINT ThreadCodePage()
 
 TEST(SystemText, EveryLocaleGivesTheThreadItsCodePage)
 {
-    const LCID before = GetThreadLocale();
     for (UINT codePage : {932u, 936u, 950u, 1251u, 1252u})
     {
         ASSERT_TRUE(LocaleOfCodePage(codePage));
-        SetThreadLocale(*LocaleOfCodePage(codePage));
+        const ThreadLocale locale(*LocaleOfCodePage(codePage));
         EXPECT_EQ(ThreadCodePage(), codePage);
     }
-    SetThreadLocale(before);
     EXPECT_FALSE(LocaleOfCodePage(65001));
 }
 
 TEST(SystemText, NamesConvertByTheThreadsCodePage)
 {
-    const LCID before = GetThreadLocale();
-    SetThreadLocale(*LocaleOfCodePage(936));
+    const ThreadLocale chinese(*LocaleOfCodePage(936));
     wchar_t wide[8] = {};
     EXPECT_EQ(MultiByteToWideChar(CP_THREAD_ACP, 0, "\xB4\xF2\xD3\xA1", -1, wide, 8), 3);
     EXPECT_EQ(WideFromUtf8(kPrint), wide);
-    SetThreadLocale(before);
 }

@@ -2,6 +2,7 @@
 #include "tests/editors/FactoryEditor.h"
 #include "tests/editors/PrintModeEditor.h"
 #include "tests/editors/UserEditor.h"
+#include "tests/robustness/BareEditor.h"
 #include "tests/robustness/LibraryHeap.h"
 #include "tests/robustness/Resources.h"
 #include "tests/robustness/WholeMachine.h"
@@ -86,57 +87,6 @@ const Editor kEditors[] = {{"PrintModes",
                             &UseUserSchemes,
                             {IDD_SCHEME_USER, IDD_SCHEME_CMMN, IDD_SCHEME_ELC, IDD_SCHEME_INK_MUL, IDD_SCHEME_INK_CUT,
                              IDD_SCHEME_UV, IDD_SCHEME_SAPP}}};
-
-// The same dialogs from the same templates, with the same version of the controls, and none of the library's code: what
-// grows here grows by the system's doing.
-class BareEditor
-{
-public:
-    BareEditor(HMODULE module, const std::vector<int>& templates) : m_module(module), m_templates(templates)
-    {
-        wchar_t path[MAX_PATH + 1]{};
-        GetModuleFileNameW(module, path, MAX_PATH);
-        ACTCTXW context{};
-        context.cbSize = sizeof(context);
-        context.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;
-        context.lpSource = path;
-        context.lpResourceName = MAKEINTRESOURCEW(2);
-        m_context = CreateActCtxW(&context);
-    }
-    ~BareEditor() { ReleaseActCtx(m_context); }
-    BareEditor(const BareEditor&) = delete;
-    BareEditor& operator=(const BareEditor&) = delete;
-
-    std::int32_t Run() const
-    {
-        ULONG_PTR cookie = 0;
-        ActivateActCtx(m_context, &cookie);
-        DialogBoxParamW(m_module, MAKEINTRESOURCEW(m_templates.front()), nullptr, &Procedure,
-                        reinterpret_cast<LPARAM>(this));
-        DeactivateActCtx(0, cookie);
-        return 1;
-    }
-
-private:
-    static INT_PTR CALLBACK Procedure(HWND dialog, UINT message, WPARAM wParam, LPARAM lParam)
-    {
-        if (message == WM_INITDIALOG && lParam)
-            reinterpret_cast<const BareEditor*>(lParam)->CreatePages(dialog);
-        if (message == WM_COMMAND && LOWORD(wParam) == IDCANCEL)
-            EndDialog(dialog, IDCANCEL);
-        return message == WM_INITDIALOG;
-    }
-
-    void CreatePages(HWND dialog) const
-    {
-        for (std::size_t i = 1; i < m_templates.size(); ++i)
-            CreateDialogParamW(m_module, MAKEINTRESOURCEW(m_templates[i]), dialog, &Procedure, 0);
-    }
-
-    HMODULE m_module;
-    std::vector<int> m_templates; // the editor's, then its pages'
-    HANDLE m_context;
-};
 
 class OpenClose : public testing::TestWithParam<Editor>
 {

@@ -1,6 +1,6 @@
 #include "tests/support/LanguageFolder.h"
 
-#include "tests/base/Utf16.h"
+#include "tests/support/Utf16.h"
 
 void LanguageFolder::WriteTexts(const std::wstring& lines)
 {

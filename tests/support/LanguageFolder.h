@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/base/TempFolder.h"
+#include "tests/support/TempFolder.h"
 
 #include <string>
 

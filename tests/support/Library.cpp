@@ -1,5 +1,7 @@
 #include "tests/support/Library.h"
 
+#include "tests/support/BesideProgram.h"
+
 #include <stdexcept>
 #include <string>
 
@@ -16,10 +18,7 @@ Function Export(HMODULE module, const char* name)
 
 HMODULE Load()
 {
-    wchar_t program[MAX_PATH + 1]{};
-    GetModuleFileNameW(nullptr, program, MAX_PATH);
-    const std::wstring path(program);
-    const HMODULE module = LoadLibraryW((path.substr(0, path.rfind(L'\\') + 1) + L"Quorvane.dll").c_str());
+    const HMODULE module = LoadLibraryW(BesideProgram(L"Quorvane.dll").c_str());
     if (!module)
         throw std::runtime_error("Quorvane.dll cannot be loaded from the program's folder");
     return module;

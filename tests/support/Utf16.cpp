@@ -1,4 +1,4 @@
-#include "tests/base/Utf16.h"
+#include "tests/support/Utf16.h"
 
 std::string Utf16(std::wstring_view text, bool withMark, bool highByteFirst)
 {

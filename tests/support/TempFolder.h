@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-// A folder of one test's own; it goes with all its files when the test ends.
+// A folder of one test's own; it goes with all its files and empty folders when the test ends.
 class TempFolder
 {
 public:
@@ -14,6 +14,7 @@ public:
 
     // Without a trailing backslash.
     const std::wstring& Path() const { return m_path; }
+    std::wstring PathOf(const std::wstring& name) const { return m_path + L"\\" + name; }
     std::wstring Write(const std::wstring& name, std::string_view bytes) const;
 
 private:

@@ -1,4 +1,4 @@
-#include "tests/base/TempFolder.h"
+#include "tests/support/TempFolder.h"
 
 #include <stdexcept>
 #include <windows.h>
@@ -30,9 +30,10 @@ TempFolder::~TempFolder()
     HANDLE search = FindFirstFileW((m_path + L"\\*").c_str(), &found);
     for (BOOL more = search != INVALID_HANDLE_VALUE; more; more = FindNextFileW(search, &found))
     {
-        const std::wstring path = m_path + L"\\" + found.cFileName;
+        const std::wstring path = PathOf(found.cFileName);
         SetFileAttributesW(path.c_str(), FILE_ATTRIBUTE_NORMAL);
         DeleteFileW(path.c_str());
+        RemoveDirectoryW(path.c_str());
     }
     FindClose(search);
     RemoveDirectoryW(m_path.c_str());
@@ -40,7 +41,7 @@ TempFolder::~TempFolder()
 
 std::wstring TempFolder::Write(const std::wstring& name, std::string_view bytes) const
 {
-    const std::wstring path = m_path + L"\\" + name;
+    const std::wstring path = PathOf(name);
     WriteBytes(path, bytes);
     return path;
 }
