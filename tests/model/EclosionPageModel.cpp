@@ -1,6 +1,7 @@
 #include "tests/model/EclosionPageModel.h"
 
 #include "resources/resource.h"
+#include "tests/editors/CustomEclosionType.h"
 #include "tests/model/HostText.h"
 
 #include <algorithm>
@@ -10,7 +11,6 @@ namespace
 {
 constexpr std::uint32_t kTypeTable = 2055;
 constexpr std::uint32_t kCustomLevelTable = 2057;
-constexpr int kCustomType = 19;
 constexpr int kMostRange = 200;
 constexpr std::size_t kDotModes = 4;
 constexpr std::size_t kHeadTypes = 3;
@@ -129,7 +129,7 @@ void EclosionPageModel::ChangeRow(int combo, int row)
           std::pair{IDC_CMB_DOT_MODE, &m_dotRow}, std::pair{IDC_CMB_HEAD_ELC_TYPE, &m_headTypeRow}})
         if (combo == control)
             *kept = row;
-    m_asks = combo == IDC_CMB_ELC_TYPE && row >= 0 && m_types[static_cast<std::size_t>(row)] == kCustomType &&
+    m_asks = combo == IDC_CMB_ELC_TYPE && row >= 0 && m_types[static_cast<std::size_t>(row)] == kCustomEclosionType &&
              Scheme().IsEditable();
 }
 

@@ -14,7 +14,6 @@ const std::vector<int> kButtons = {IDC_BTN_ADD_CFG,  IDC_BTN_ADD_MODE, IDC_BTN_A
                                    IDC_BTN_MODE_UP,  IDC_BTN_MODE_UP,  IDC_BTN_MODE_DOWN, IDC_BTN_MODE_DOWN,
                                    IDC_BTN_DEL_MODE, IDC_BTN_DEL_CFG};
 
-const Texts kNames = {L"", L"Poster", L"  padded  ", L"\u6253\u5370", L"\u00C9t\u00E9", std::wstring(70, L'x')};
 const Texts kNumbers = {L"0", L"1.5", L"-2.25", L" 7 ", L"1e3", L"123456.7", L"0.1", L".5"};
 const Texts kNoNumbers = {L"", L"abc", L"1,5", L"1.5x"};
 const Texts kIntegers = {L"0", L"720", L"-5", L"70000", L"300", L"99999999999", L" 8 "};

@@ -1,9 +1,9 @@
 #include "tests/model/SchemeOperator.h"
 
+#include "tests/editors/CustomEclosionType.h"
+
 namespace
 {
-constexpr int kCustomType = 19;
-const Texts kNames = {L"", L"Poster", L"  padded  ", L"\u6253\u5370", L"\u00C9t\u00E9", std::wstring(70, L'x')};
 const Texts kRanges = {L"0", L"7", L"200", L"201", L"9999999999", L"", L"12"};
 const Texts kOffsets = {L"0", L"5", L"65535", L"65537", L"-1", L" 12 ", L"99999999999", L"x", L""};
 
@@ -111,7 +111,7 @@ void SchemeOperator::UseEclosionPage()
     case 1:
     {
         const ComboBox types = m_editor.Combo(kPage, IDC_CMB_ELC_TYPE);
-        return PickRow(types, types.RowWithData(kCustomType));
+        return PickRow(types, types.RowWithData(kCustomEclosionType));
     }
     case 2:
         return Type(m_editor.Edit(kPage, IDC_EDIT_RANGE_SS + Luck().Below(4)), Luck().OneOf(kRanges));
