@@ -284,8 +284,9 @@ void CMFCPropertyGridCtrl::ChangeValue(const CString& strValue)
 
 void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* pProp) const
 {
-    GetParent()->SendMessage(AFX_WM_PROPERTY_CHANGED, static_cast<WPARAM>(GetDlgCtrlID()),
-                             reinterpret_cast<LPARAM>(pProp));
+    if (!NotificationsHeld())
+        GetParent()->SendMessage(AFX_WM_PROPERTY_CHANGED, static_cast<WPARAM>(GetDlgCtrlID()),
+                                 reinterpret_cast<LPARAM>(pProp));
 }
 
 BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)

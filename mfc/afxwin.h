@@ -104,6 +104,9 @@ protected:
     // TRUE once the modal dialog around this window was told to end.
     virtual bool IsEnding() const { return false; }
 
+    // Whether this window is told nothing by its controls: its dialog has been told to end, or shows a prompt.
+    bool NotificationsHeld() const;
+
     // Default processing of the message being handled.
     LRESULT Default();
 
@@ -118,7 +121,6 @@ private:
     static LPPOINT PointsOf(LPRECT lpRect) { return reinterpret_cast<LPPOINT>(lpRect); }
     HWND ChildById(int nID) const;
     BOOL DispatchMapped(UINT message, UINT nCode, UINT nID, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
-    bool NotificationsHeld() const;
 
     mutable std::unordered_map<int, HWND> m_mapChildren; // as last found
     WNDPROC m_pfnSuper = nullptr;                        // the procedure that the window had before it was subclassed

@@ -18,7 +18,6 @@
 
 namespace
 {
-
 // A configuration on loan from the host; it goes back whatever happens.
 class CNewConfig
 {

@@ -39,6 +39,19 @@ bool IsMove(UINT nSBCode)
 {
     return nSBCode <= TB_PAGEDOWN || nSBCode == TB_THUMBTRACK;
 }
+
+// True for as long as it lives.
+class CRaisedFlag
+{
+public:
+    explicit CRaisedFlag(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
+    ~CRaisedFlag() { m_bFlag = false; }
+    CRaisedFlag(const CRaisedFlag&) = delete;
+    CRaisedFlag& operator=(const CRaisedFlag&) = delete;
+
+private:
+    bool& m_bFlag;
+};
 } // namespace
 
 CDlgPrintSchemeCustomEclosion::CDlgPrintSchemeCustomEclosion()
@@ -127,9 +140,16 @@ void CDlgPrintSchemeCustomEclosion::OnOK()
 {
     {
         const CWaitCursor wait;
+        const CRaisedFlag saving(m_bSaving);
         GetHostContext().pControl->SaveCustomEclosionSet();
     }
     CDialogEx::OnOK();
+}
+
+// Should the host dispatch messages while it saves, the set is not changed, and nothing else ends the dialog.
+BOOL CDlgPrintSchemeCustomEclosion::OnCommand(WPARAM wParam, LPARAM lParam)
+{
+    return m_bSaving || CDialogEx::OnCommand(wParam, lParam);
 }
 
 void CDlgPrintSchemeCustomEclosion::OnPaint()
@@ -142,7 +162,7 @@ void CDlgPrintSchemeCustomEclosion::OnPaint()
 // Everything moved reaches the host at once; Save only has it kept.
 void CDlgPrintSchemeCustomEclosion::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    if (pScrollBar && IsMove(nSBCode))
+    if (pScrollBar && IsMove(nSBCode) && !m_bSaving)
     {
         if (pScrollBar->m_hWnd == m_sliderRange.m_hWnd)
             MoveRange();

@@ -27,6 +27,7 @@ protected:
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
     void OnOK() override;
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
 
     void OnPaint();
     void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
@@ -86,5 +87,6 @@ private:
     int m_nRange = 0;
     int m_nCurMode = 0;
     bool m_bAllowLockedEdit = true;
+    bool m_bSaving = false;
     ICustomEclosionSet* m_pSet = nullptr; // the host's
 };

@@ -409,4 +409,21 @@ TEST_F(BadInput, NothingIsHandledWhileTheHostSaves)
     EXPECT_EQ(Changes().back(), "IHostControl.SaveParameters(2)");
 }
 
+// The same with a head's data mode, which the operator changes by a double click.
+TEST_F(BadInput, NoDataModeIsChangedWhileTheHostSaves)
+{
+    Run([this](PrintModeEditor& editor) {
+        const PropertyGrid grid = editor.Grid();
+        const HWND window = grid.Handle();
+        RECT list;
+        GetWindowRect(grid.OpenRow(0).Handle(), &list); // below the row
+        editor.Op().Key(VK_ESCAPE);
+        MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&list), 2);
+        const LPARAM inRow = MAKELPARAM(list.left + 5, list.top - 5);
+        Host().OnSave([=](refhost::SaveRequest) { SendMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, inRow); });
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(Changes().back(), "IHostControl.SaveParameters(2)");
+}
+
 } // namespace

@@ -426,6 +426,24 @@ TEST_F(CustomEclosion, SavesUnderTheWaitCursor)
     EXPECT_EQ(cursor, LoadCursorW(nullptr, IDC_WAIT));
 }
 
+// The host dispatches messages while it saves: a second Save, Cancel, and changes, arrive meanwhile.
+TEST_F(CustomEclosion, NothingIsHandledWhileTheHostSaves)
+{
+    UseDefinition(Definition({ModeOf({{2, 3}, {4, 5}}), ModeOf({{6, 7}})}));
+    RunDialog([this](CustomEclosionDialog& dialog) {
+        const HWND window = dialog.Dialog().Handle();
+        const HWND range = dialog.Control(IDC_SLIDER_ECLO_RANGE).Handle();
+        Host().OnSave([=](refhost::SaveRequest) {
+            for (int id : {IDOK, IDC_BTN_ADD_ECL_MODE, IDC_BTN_DEL_ELEMENT, IDC_RADIO_MODE2, IDCANCEL})
+                SendMessageW(window, WM_COMMAND, static_cast<WPARAM>(id),
+                             reinterpret_cast<LPARAM>(GetDlgItem(window, id)));
+            SendMessageW(range, WM_KEYDOWN, VK_RIGHT, 0);
+        });
+        dialog.Save();
+    });
+    EXPECT_EQ(Changes(), (Calls{"IHostControl.SaveCustomEclosionSet()", "IPrintScheme[0].SetCustomEclosionId(0)"}));
+}
+
 TEST_F(CustomEclosion, WithoutASetNothingButCancelWorks)
 {
     m_faults.failing = {"IHostData.GetCustomEclosionSet()"};
