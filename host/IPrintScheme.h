@@ -170,16 +170,16 @@ public:
     /// See SetInkCut.
     virtual std::uint8_t GetInkCut(std::uint8_t colorIndex) = 0; // 49
 
-    /// See SetLampLL. Non-zero is on.
+    /// See SetLampLL. 1 is on, 0 off.
     virtual std::uint8_t GetLampLL() = 0; // 50
 
-    /// See SetLampLR. Non-zero is on.
+    /// See SetLampLR. 1 is on, 0 off.
     virtual std::uint8_t GetLampLR() = 0; // 51
 
-    /// See SetLampRL. Non-zero is on.
+    /// See SetLampRL. 1 is on, 0 off.
     virtual std::uint8_t GetLampRL() = 0; // 52
 
-    /// See SetLampRR. Non-zero is on.
+    /// See SetLampRR. 1 is on, 0 off.
     virtual std::uint8_t GetLampRR() = 0; // 53
 
     /// See SetSpeed. Negative leaves the choice open.

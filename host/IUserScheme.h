@@ -152,16 +152,16 @@ public:
     /// See SetInkCut.
     virtual std::uint8_t GetInkCut(std::uint8_t colorIndex) = 0; // 42
 
-    /// See SetLampLL. Non-zero is on.
+    /// See SetLampLL. 1 is on, 0 off.
     virtual std::uint8_t GetLampLL() = 0; // 43
 
-    /// See SetLampLR. Non-zero is on.
+    /// See SetLampLR. 1 is on, 0 off.
     virtual std::uint8_t GetLampLR() = 0; // 44
 
-    /// See SetLampRL. Non-zero is on.
+    /// See SetLampRL. 1 is on, 0 off.
     virtual std::uint8_t GetLampRL() = 0; // 45
 
-    /// See SetLampRR. Non-zero is on.
+    /// See SetLampRR. 1 is on, 0 off.
     virtual std::uint8_t GetLampRR() = 0; // 46
 
     /// See SetChannel.
