@@ -16,13 +16,15 @@ const std::wstring kTexts[] = {L"",     L"0", L"1",     L"-1",  L"250",      L"2
                                L"1e38", L"x", L"1.5e9", L" 7 ", L"\u540D%s", std::wstring(70, L'n')};
 } // namespace
 
-void BlindOperator::Act(int gestures)
+int BlindOperator::Act(int gestures)
 {
+    int done = 0;
     for (int i = 0; i < gestures && !m_operator.HasEditorEnded(); ++i)
     {
         try
         {
             Gesture();
+            ++done;
         }
         catch (const OperatorFailure&)
         {
@@ -30,6 +32,7 @@ void BlindOperator::Act(int gestures)
         }
         m_operator.Settle();
     }
+    return done;
 }
 
 void BlindOperator::Leave()

@@ -10,8 +10,8 @@ class BlindOperator
 public:
     BlindOperator(Operator& op, unsigned seed) : m_operator(op), m_chance(seed) {}
 
-    // Some gestures; fewer where the editor ends before.
-    void Act(int gestures);
+    // Some gestures; fewer where the editor ends before. How many of them found what they were for.
+    int Act(int gestures);
     // Leaves every dialog until the editor has ended. Throws where one cannot be left.
     void Leave();
 

@@ -10,7 +10,7 @@
 
 namespace
 {
-constexpr std::size_t kChannelRoom = 256;
+constexpr std::uint32_t kChannelRoom = 65536; // as docs/abi.md promises it
 constexpr std::size_t kEntryBytes = 256;
 constexpr std::uint32_t kMostMessages = 10;
 // A message that is dispatched while the host saves may lead to the next save.

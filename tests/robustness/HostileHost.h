@@ -26,6 +26,8 @@ public:
     {
         m_awaited = {OperationsOf<Interface>::Table(), PositionOf(operation), callsBefore, std::move(action)};
     }
+    // Whether that call came.
+    bool HasActed() const { return !m_awaited.action; }
     // From now on the operation gives this number, whatever it is asked.
     template <class Interface, class Operation>
     void Always(Operation Interface::*operation, std::uint32_t number)
@@ -35,6 +37,7 @@ public:
     // The object or name that the call being handled is about to give is null.
     void GiveNull() { m_nextIsNull = true; }
     std::string Describe() const { return m_temper.Describe(); }
+    const FaultCounts& Faults() const { return m_temper.Happened(); }
     // What was lent and not taken back, or taken back and never lent.
     std::size_t WrongLoans() const { return m_lent.size() + m_neverLent; }
 

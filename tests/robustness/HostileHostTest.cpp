@@ -22,8 +22,10 @@ constexpr Operation kOperations[] = {&IQuorvane::EditPrintModes, &IQuorvane::Edi
 constexpr std::uint32_t kSaveKinds[] = {2, 2, 3};
 constexpr int kGestures = 15;
 constexpr unsigned kRunsBetweenChecks = 20;
+// So many have all kinds of faults among them.
+constexpr unsigned kTellingRuns = 70;
 
-refhost::HostFaults Faults()
+refhost::HostFaults SoundFaults()
 {
     refhost::HostFaults faults;
     faults.keepRemoved = true;
@@ -42,17 +44,25 @@ protected:
                          script);
     }
 
+    static void SetUpTestSuite() { s_runs = s_gestures = 0, s_faults = {}; }
+    // A fault that never happens, or a hand that never finds anything, would prove nothing.
+    static void TearDownTestSuite();
+
     void MeetHostileHost(unsigned seed);
     void ExpectSoundRun(std::size_t editor);
 
 private:
+    static inline unsigned s_runs = 0;
+    static inline unsigned s_gestures = 0;
+    static inline FaultCounts s_faults{};
+
     Library::Interface m_interface = Library::Loaded().NewInterface();
     LanguageFolder m_language;
 };
 
 void HostileRun::MeetHostileHost(unsigned seed)
 {
-    refhost::Host sound(WholeMachine(), Faults());
+    refhost::Host sound(WholeMachine(), SoundFaults());
     sound.Log().SetLevel(refhost::CallLog::Level::Nothing);
     HostileHost host(sound, Temper(seed));
     SCOPED_TRACE(CommandToRepeat(seed, "*HostileRun*/" + std::to_string(seed)) + "; the host's faults " +
@@ -61,17 +71,29 @@ void HostileRun::MeetHostileHost(unsigned seed)
         op.ExpectAnyDialog();
         op.WaitFor("the editor to open or to end", [&] { return op.HasEditorEnded() || op.TopDialog().Exists(); });
         BlindOperator hand(op, ~seed); // whose choices must not follow the host's
-        hand.Act(kGestures);
+        s_gestures += static_cast<unsigned>(hand.Act(kGestures));
         hand.Leave();
     };
     EXPECT_EQ(Edit(kOperations[seed % std::size(kOperations)], host.Data(), host.Control(), script), 1);
     EXPECT_EQ(host.WrongLoans(), 0u);
+    ++s_runs;
+    for (std::size_t kind = 0; kind < kFaultKinds; ++kind)
+        s_faults[kind] += host.Faults()[kind];
+}
+
+void HostileRun::TearDownTestSuite()
+{
+    if (s_runs < kTellingRuns)
+        return;
+    EXPECT_GT(s_gestures, s_runs * kGestures / 4);
+    for (std::size_t kind = 0; kind < kFaultKinds; ++kind)
+        EXPECT_EQ(s_faults[kind] > 0, Temper::kCanThrow || static_cast<Fault>(kind) != Fault::Exception) << kind;
 }
 
 // Opened, walked through and saved as if nothing had happened before.
 void HostileRun::ExpectSoundRun(std::size_t editor)
 {
-    refhost::Host host(WholeMachine(), Faults());
+    refhost::Host host(WholeMachine(), SoundFaults());
     const auto script = [editor](Operator& op) {
         const Window dialog = op.ExpectDialogWith("an editor", [](const Window& any) { return any.Has(IDC_LIST_CFG); });
         const auto configs = dialog.Control<ListBox>(IDC_LIST_CFG);

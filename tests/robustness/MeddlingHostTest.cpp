@@ -59,17 +59,20 @@ private:
 // Each time that it is asked for while the editor opens and shows another scheme.
 TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
 {
-    for (unsigned call = 0; call < 25; ++call)
+    unsigned calls = 0;
+    for (bool wasCalled = true; wasCalled; ++calls)
     {
-        SCOPED_TRACE(call);
+        SCOPED_TRACE(calls);
         m_host.Within(
-            &IConfigList::GetAt, [this] { m_host.GiveNull(); }, call);
+            &IConfigList::GetAt, [this] { m_host.GiveNull(); }, calls);
         Run<FactoryEditor>([](const FactoryEditor& editor) {
             if (editor.Schemes().RowCount() > 1)
                 editor.Schemes().ClickRow(1);
             editor.Cancel();
         });
+        wasCalled = m_host.HasActed();
     }
+    EXPECT_GT(calls, 10u);
 }
 
 TEST_F(MeddlingHost, LosesTheListThatAConfigurationIsDeletedFrom)
@@ -119,6 +122,7 @@ TEST_F(ThrowingHost, LeavesTheEditorOpenWhenTheRightButtonGoesUp)
     Run<FactoryEditor>([this](const FactoryEditor& editor) {
         m_host.Within(&IPrintScheme::SetSpeed, [] { throw 1; });
         editor.Schemes().RightClickRow(1);
+        EXPECT_TRUE(m_host.HasActed());
         EXPECT_TRUE(editor.Dialog().IsVisible());
         editor.Cancel();
     });

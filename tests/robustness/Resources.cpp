@@ -24,8 +24,9 @@ struct GdiEntry
 {
     std::uint64_t object;
     std::uint32_t owner;
+    std::uint16_t generation;
     std::uint8_t type; // 0 while the entry is free
-    std::uint8_t rest[3];
+    std::uint8_t flags;
     std::uint64_t userPointer;
 };
 static_assert(sizeof(GdiEntry) == 24);

@@ -8,6 +8,11 @@
 namespace
 {
 constexpr unsigned kThousand = 1000;
+// In the order of the faults.
+constexpr FaultCounts kMostInAThousand = {300, 100, 500, 1000, 200, 20, 1000, 5, 200};
+constexpr const char* kFaultNames[kFaultKinds] = {
+    "null",      "another object",        "text",         "number",         "count",
+    "exception", "messages while saving", "lost objects", "ignored changes"};
 constexpr std::uint32_t kLongestText = 5000;
 // More rows than any list has, few enough to be listed in no time.
 constexpr std::uint32_t kManyRows = 300;
@@ -17,15 +22,8 @@ Temper::Temper(unsigned seed) : m_chance(seed)
 {
     constexpr unsigned quietCalls[] = {0, 0, 200, 2000, 8000};
     m_quietCalls = m_chance.OneOf(quietCalls);
-    m_nulls = Frequency(300);
-    m_strangers = Frequency(100);
-    m_texts = Frequency(500);
-    m_numbers = Frequency(1000);
-    m_counts = Frequency(200);
-    m_throws = Frequency(20);
-    m_messages = Frequency(1000);
-    m_losses = Frequency(5);
-    m_ignored = Frequency(200);
+    for (std::size_t kind = 0; kind < kFaultKinds; ++kind)
+        m_frequencies[kind] = Frequency(kMostInAThousand[kind]);
 }
 
 // Half of the hosts do not have the fault; of the others most have it seldom, so that an editor gets far.
@@ -37,9 +35,13 @@ unsigned Temper::Frequency(unsigned atMost)
     return std::max(1u, atMost / divisors[m_chance.Below(3)]);
 }
 
-bool Temper::Happens(unsigned frequency)
+bool Temper::Happens(Fault fault)
 {
-    return frequency > 0 && m_calls > m_quietCalls && m_chance.Below(kThousand) < frequency;
+    const auto kind = static_cast<std::size_t>(fault);
+    const unsigned frequency = m_frequencies[kind];
+    const bool happens = frequency > 0 && m_calls > m_quietCalls && m_chance.Below(kThousand) < frequency;
+    m_happened[kind] += happens;
+    return happens;
 }
 
 std::uint32_t Temper::Count(std::uint32_t sound)
@@ -86,9 +88,8 @@ std::string Temper::Text()
 std::string Temper::Describe() const
 {
     std::ostringstream text;
-    text << "in a thousand calls after the first " << m_quietCalls << ": null " << m_nulls << ", another object "
-         << m_strangers << ", text " << m_texts << ", number " << m_numbers << ", count " << m_counts << ", exception "
-         << m_throws << ", messages while saving " << m_messages << ", lost objects " << m_losses
-         << ", ignored changes " << m_ignored;
+    text << "in a thousand calls after the first " << m_quietCalls << ":";
+    for (std::size_t kind = 0; kind < kFaultKinds; ++kind)
+        text << ' ' << kFaultNames[kind] << ' ' << m_frequencies[kind] << (kind + 1 < kFaultKinds ? "," : "");
     return text.str();
 }

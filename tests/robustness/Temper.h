@@ -2,8 +2,26 @@
 
 #include "tests/support/Chance.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <string>
+
+enum class Fault
+{
+    Null,
+    AnotherObject,
+    Text,
+    Number,
+    Count,
+    Exception,
+    Messages, // dispatched while the host saves
+    Loss,     // of an object that the library may still show
+    IgnoredChange
+};
+constexpr std::size_t kFaultKinds = 9;
+// By kind.
+using FaultCounts = std::array<unsigned, kFaultKinds>;
 
 // How a hostile host behaves in one run: which faults it has, how often, and from when on. The seed decides.
 class Temper
@@ -28,39 +46,39 @@ public:
 
     bool GivesNull()
     {
-        return Happens(m_nulls);
+        return Happens(Fault::Null);
     }
     bool GivesAnotherObject()
     {
-        return Happens(m_strangers);
+        return Happens(Fault::AnotherObject);
     }
     bool GivesText()
     {
-        return Happens(m_texts);
+        return Happens(Fault::Text);
     }
     bool GivesNumber()
     {
-        return Happens(m_numbers);
+        return Happens(Fault::Number);
     }
     bool GivesCount()
     {
-        return Happens(m_counts);
+        return Happens(Fault::Count);
     }
     bool Throws()
     {
-        return kCanThrow && Happens(m_throws);
+        return kCanThrow && Happens(Fault::Exception);
     }
     bool DispatchesMessages()
     {
-        return Happens(m_messages);
+        return Happens(Fault::Messages);
     }
     bool LosesObjects()
     {
-        return Happens(m_losses);
+        return Happens(Fault::Loss);
     }
     bool IgnoresChange()
     {
-        return Happens(m_ignored);
+        return Happens(Fault::IgnoredChange);
     }
 
     std::uint32_t Count(std::uint32_t sound);
@@ -78,15 +96,20 @@ public:
     }
 
     std::string Describe() const;
+    // How often each fault has happened.
+    const FaultCounts& Happened() const
+    {
+        return m_happened;
+    }
 
 private:
     // In a thousand calls.
     unsigned Frequency(unsigned atMost);
-    bool Happens(unsigned frequency);
+    bool Happens(Fault fault);
 
     Chance m_chance{0};
     unsigned m_calls = 0;
     unsigned m_quietCalls = 0;
-    unsigned m_nulls = 0, m_strangers = 0, m_texts = 0, m_numbers = 0, m_counts = 0;
-    unsigned m_throws = 0, m_messages = 0, m_losses = 0, m_ignored = 0;
+    FaultCounts m_frequencies{};
+    FaultCounts m_happened{};
 };
