@@ -18,6 +18,13 @@ std::wstring AutomaticName(const ConfigValues& values)
 }
 } // namespace
 
+ConfigFields FieldsOf(const refhost::PrintConfig& config, unsigned codePage)
+{
+    return {ToWide(config.name, codePage),       std::to_wstring(config.xResolution),
+            std::to_wstring(config.yResolution), std::to_wstring(config.colorCount),
+            std::to_wstring(config.dotBits),     config.enabled};
+}
+
 std::optional<ConfigValues> AcceptedConfig(const ConfigFields& fields)
 {
     const auto x = ParseInteger(fields.xResolution);

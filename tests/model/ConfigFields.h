@@ -1,5 +1,7 @@
 #pragma once
 
+#include "refhost/Machine.h"
+
 #include <optional>
 #include <string>
 
@@ -21,6 +23,9 @@ struct ConfigFields
     }
     friend bool operator!=(const ConfigFields& left, const ConfigFields& right) { return !(left == right); }
 };
+
+// As the dialog shows a configuration whose name is in the code page.
+ConfigFields FieldsOf(const refhost::PrintConfig& config, unsigned codePage);
 
 struct ConfigValues
 {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -8,6 +9,8 @@ class Diary
 {
 public:
     void Write(const std::string& action) { m_actions.push_back(action); }
+
+    std::size_t Count() const { return m_actions.size(); }
 
     std::string Text() const
     {

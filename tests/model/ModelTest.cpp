@@ -7,6 +7,8 @@
 namespace
 {
 constexpr unsigned kChinesePage = 936;
+// Of so many some end by saving, and some do not.
+constexpr std::size_t kTellingRuns = 15;
 
 // What makes the thread's code page that of the machine's names.
 LCID LocaleOf(unsigned codePage)
@@ -31,6 +33,20 @@ void ModelTest::PlayAgainst(EditorModel& model, const Play& play)
     EXPECT_EQ(ChangesWith("IHostControl."), model.Saves());
     if (HasFailure())
         ADD_FAILURE() << Reproduction();
+    ++s_tally.runs;
+    s_tally.actions += m_run.diary.Count();
+    s_tally.changes += Changes().size();
+    s_tally.savedRuns += ChangesWith("IHostControl.SaveParameters").size();
+}
+
+void ModelTest::TearDownTestSuite()
+{
+    if (s_tally.runs < kTellingRuns)
+        return;
+    EXPECT_GT(s_tally.actions, 10 * s_tally.runs);
+    EXPECT_GT(s_tally.changes, 3 * s_tally.runs);
+    EXPECT_GT(s_tally.savedRuns, s_tally.runs / 10);
+    EXPECT_LT(s_tally.savedRuns, s_tally.runs * 9 / 10);
 }
 
 std::string ModelTest::Reproduction() const

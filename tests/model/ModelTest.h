@@ -11,11 +11,25 @@ class ModelTest : public EditorTest, public testing::WithParamInterface<unsigned
 protected:
     explicit ModelTest(Operation operation);
 
+    static void SetUpTestSuite() { s_tally = {}; }
+    // Operators who never do anything, or end all in the same way, would prove nothing.
+    static void TearDownTestSuite();
+
     using Play = std::function<void(Operator&, SeededRun&)>;
     void PlayAgainst(EditorModel& model, const Play& play);
 
 private:
+    struct Tally
+    {
+        std::size_t runs;
+        std::size_t actions;
+        std::size_t changes;
+        std::size_t savedRuns;
+    };
+
     std::string Reproduction() const;
+
+    static inline Tally s_tally{};
 
     Operation m_operation;
     SeededRun m_run;

@@ -214,13 +214,7 @@ ConfigFields PrintModeModel::OpenedConfig() const
 {
     if (!m_isRenaming)
         return {L"[720 X 720]", L"720", L"720", L"0", L"0", true};
-    const refhost::PrintConfig& config = m_machine.configurations[static_cast<std::size_t>(m_config)];
-    return {Wide(config.name),
-            std::to_wstring(config.xResolution),
-            std::to_wstring(config.yResolution),
-            std::to_wstring(config.colorCount),
-            std::to_wstring(config.dotBits),
-            config.enabled};
+    return FieldsOf(m_machine.configurations[static_cast<std::size_t>(m_config)], m_machine.codePage);
 }
 
 bool PrintModeModel::ConfirmConfig(const ConfigFields& fields)

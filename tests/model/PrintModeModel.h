@@ -30,10 +30,10 @@ public:
     void ChooseDataMode(std::size_t dataRow, const std::wstring& option);
     bool ShowsMode() { return Attached() != nullptr; }
 
+private:
     int Configs() const { return static_cast<int>(m_configRows.size()); }
     int Modes() const { return static_cast<int>(m_modeRows.size()); }
 
-private:
     // A mode keeps its number wherever it goes in its configuration.
     using ModeNumber = int;
     static constexpr ModeNumber kNoMode = -1;

@@ -14,7 +14,7 @@ TEST_P(RandomPrintModeOperator, LeavesTheHostAsTheModelHasIt)
 {
     PrintModeModel model(m_machine);
     PlayAgainst(model, [&](Operator& op, SeededRun& run) {
-        const PrintModeEditor editor(op, op.ExpectDialog(kEditorCaption));
+        const PrintModeEditor editor = ExpectPrintModeEditor(op);
         PrintModeOperator(editor, model, run).Work();
     });
 }

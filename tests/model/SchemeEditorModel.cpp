@@ -118,13 +118,7 @@ const refhost::PrintConfig* SchemeEditorModel::SelectedConfig() const
 
 ConfigFields SchemeEditorModel::ViewedConfig() const
 {
-    const refhost::PrintConfig& config = *SelectedConfig();
-    return {Wide(config.name),
-            std::to_wstring(config.xResolution),
-            std::to_wstring(config.yResolution),
-            std::to_wstring(config.colorCount),
-            std::to_wstring(config.dotBits),
-            config.enabled};
+    return FieldsOf(*SelectedConfig(), m_machine.codePage);
 }
 
 void SchemeEditorModel::SelectRow(int row, bool saveFirst)

@@ -25,7 +25,6 @@ public:
     void EndViewing() { Closed(); }
 
     int Id() const { return m_scheme.Id(); }
-    bool IsEditable() const { return m_scheme.IsEditable(); }
 
 protected:
     SchemeEditorModel(const refhost::Machine& machine, bool isUserEditor);

@@ -5,11 +5,6 @@
 
 namespace
 {
-bool IsEditor(const Window& dialog)
-{
-    return dialog.Has(IDC_LIST_SCHEME);
-}
-
 class RandomFactoryOperator : public ModelTest
 {
 protected:
@@ -20,7 +15,7 @@ TEST_P(RandomFactoryOperator, LeavesTheHostAsTheModelHasIt)
 {
     FactoryModel model(m_machine);
     PlayAgainst(model, [&](Operator& op, SeededRun& run) {
-        const FactoryEditor editor(op, op.ExpectDialogWith("the factory editor", &IsEditor));
+        const FactoryEditor editor = ExpectFactoryEditor(op);
         FactoryOperator(editor, model, run).Work();
     });
 }
@@ -37,7 +32,7 @@ TEST_P(RandomUserOperator, LeavesTheHostAsTheModelHasIt)
 {
     UserModel model(m_machine);
     PlayAgainst(model, [&](Operator& op, SeededRun& run) {
-        const UserEditor editor(op, op.ExpectDialogWith("the user editor", &IsEditor));
+        const UserEditor editor = ExpectUserEditor(op);
         UserOperator(editor, model, run).Work();
     });
 }

@@ -2,7 +2,6 @@
 
 namespace
 {
-const Texts kSchemeNames = {L"", L"Mine", L"  padded  ", L"\u6211\u7684", std::wstring(70, L'x')};
 }
 
 UserOperator::UserOperator(const UserEditor& editor, UserModel& model, SeededRun& run)
@@ -20,7 +19,7 @@ void UserOperator::WorkOnOther(int)
     const AddUserSchemeDialog dialog = m_editor.ExpectAddScheme();
     RequireProposal(dialog);
     if (!Luck().OneIn(3))
-        dialog.Name().Type(Luck().OneOf(kSchemeNames));
+        dialog.Name().Type(Luck().OneOf(kNames));
     if (!Luck().OneIn(3) && dialog.Source().RowCount() > 0)
         dialog.Source().Pick(Luck().Below(dialog.Source().RowCount()));
     const std::wstring name = dialog.Name().Text();
