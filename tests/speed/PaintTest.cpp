@@ -128,47 +128,93 @@ void PrintTo(const PageLimit& limit, std::ostream* out)
     *out << "the page with control " << static_cast<int>(limit.page);
 }
 
-class ChangePaint : public Painted<FactorySchemeTest>, public testing::WithParamInterface<PageLimit>
+template <class Fixture>
+class ChangePaint : public Painted<Fixture>, public testing::WithParamInterface<PageLimit>
 {
+protected:
+    void ExpectPaintedOnce(const SchemeEditor& editor, int from, int to);
 };
 
-TEST_P(ChangePaint, ComesOnceToWhatIsToBeSeen)
+template <class Fixture>
+void ChangePaint<Fixture>::ExpectPaintedOnce(const SchemeEditor& editor, int from, int to)
+{
+    editor.Open(GetParam().page);
+    editor.Schemes().ClickRow(to);
+    editor.Schemes().ClickRow(from);
+    AwaitPainted(editor.Op());
+    this->m_log.Take();
+    editor.Schemes().ClickRow(to);
+    AwaitPainted(editor.Op());
+    const Messages messages = this->m_log.Take();
+    EXPECT_EQ(Count(messages, IsLabelSet), 0);
+    EXPECT_EQ(Count(messages, IsPlaced), 0);
+    const HWND page = editor.Page(GetParam().page).Handle();
+    const auto changesPage = [page](const LoggedMessage& one) {
+        return IsChild(page, one.window) && ChangesContent(one);
+    };
+    EXPECT_GT(Count(messages, changesPage), 0);
+    int pageWindows = 0;
+    for (const auto& [window, count] : Paints(messages))
+    {
+        if (window == editor.Tab().Handle())
+            continue; // it marks the tab under the mouse, some time after the mouse has moved
+        EXPECT_EQ(count, 1) << Name(window);
+        EXPECT_TRUE(IsWindowVisible(window)) << Name(window);
+        pageWindows += IsChild(page, window) ? 1 : 0;
+    }
+    EXPECT_LE(pageWindows, GetParam().windows);
+}
+
+using FactoryChangePaint = ChangePaint<FactorySchemeTest>;
+using UserChangePaint = ChangePaint<UserSchemeTest>;
+
+TEST_P(FactoryChangePaint, ComesOnceToWhatIsToBeSeen)
 {
     Run([this](FactoryEditor& editor) {
-        editor.Open(GetParam().page);
-        editor.Schemes().ClickRow(1);
-        editor.Schemes().ClickRow(0);
-        AwaitPainted(editor.Op());
-        m_log.Take();
-        editor.Schemes().ClickRow(1);
-        AwaitPainted(editor.Op());
-        const Messages messages = m_log.Take();
-        EXPECT_EQ(Count(messages, IsLabelSet), 0);
-        EXPECT_EQ(Count(messages, IsPlaced), 0);
-        const HWND page = editor.Page(GetParam().page).Handle();
-        const auto changesPage = [page](const LoggedMessage& one) {
-            return IsChild(page, one.window) && ChangesContent(one);
-        };
-        EXPECT_GT(Count(messages, changesPage), 0);
-        int pageWindows = 0;
-        for (const auto& [window, count] : Paints(messages))
-        {
-            if (window == editor.Tab().Handle())
-                continue; // it marks the tab under the mouse, some time after the mouse has moved
-            EXPECT_EQ(count, 1) << Name(window);
-            EXPECT_TRUE(IsWindowVisible(window)) << Name(window);
-            pageWindows += IsChild(page, window) ? 1 : 0;
-        }
-        EXPECT_LE(pageWindows, GetParam().windows);
+        ExpectPaintedOnce(editor, 0, 1);
         editor.Cancel();
     });
 }
 
-INSTANTIATE_TEST_SUITE_P(Pages, ChangePaint,
+TEST_P(UserChangePaint, ComesOnceToWhatIsToBeSeen)
+{
+    Run([this](UserEditor& editor) {
+        ExpectPaintedOnce(editor, kMine, kYours);
+        editor.Cancel();
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, FactoryChangePaint,
                          testing::Values(PageLimit{SchemePage::Common, 10}, PageLimit{SchemePage::Mode, 3},
                                          PageLimit{SchemePage::Eclosion, 11}, PageLimit{SchemePage::InkMultiple, 4},
                                          PageLimit{SchemePage::InkCut, 10}, PageLimit{SchemePage::UvLamps, 4},
                                          PageLimit{SchemePage::SmallFormat, 2}));
+INSTANTIATE_TEST_SUITE_P(Pages, UserChangePaint,
+                         testing::Values(PageLimit{SchemePage::Common, 10}, PageLimit{SchemePage::Eclosion, 11},
+                                         PageLimit{SchemePage::InkMultiple, 4}, PageLimit{SchemePage::InkCut, 10},
+                                         PageLimit{SchemePage::UvLamps, 4}, PageLimit{SchemePage::SmallFormat, 2}));
+
+// The mode's name, pass count, resolution and resident value change; the page with the heads' data is not in sight.
+TEST_F(PrintModePaint, ComesOnceToWhatAChangeOfModeShows)
+{
+    Run([this](PrintModeEditor& editor) {
+        editor.Modes().ClickRow(1);
+        editor.Modes().ClickRow(0);
+        AwaitPainted(editor.Op());
+        m_log.Take();
+        editor.Modes().ClickRow(1);
+        AwaitPainted(editor.Op());
+        const Messages messages = m_log.Take();
+        EXPECT_GT(Count(messages, ChangesContent), 0);
+        for (const auto& [window, count] : Paints(messages))
+            if (window != editor.Tab().Handle())
+            {
+                EXPECT_EQ(count, 1) << Name(window);
+                EXPECT_TRUE(IsWindowVisible(window)) << Name(window);
+            }
+        editor.Cancel();
+    });
+}
 
 TEST_F(FactoryPaint, OfADraggedElementIsItsPreviewAlone)
 {
