@@ -1,7 +1,6 @@
 #include "tests/fuzz/LanguageInputs.h"
 
 #include <algorithm>
-#include <stdexcept>
 
 #include "tests/base/IniGenerator.h"
 #include "tests/fuzz/ByteMutations.h"

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <limits>
-#include <stdexcept>
 #include <type_traits>
 
 #include "refhost/MachineFields.h"
@@ -175,6 +174,23 @@ auto At(std::vector<std::string_view>& tokens, std::size_t place)
     return tokens.begin() + static_cast<std::ptrdiff_t>(place);
 }
 
+// A few tokens from a place on, no more than there are.
+std::size_t SpanAt(const std::vector<std::string_view>& tokens, std::size_t place, Random& random)
+{
+    return std::min(random.Below(30), tokens.size() - place);
+}
+
+std::vector<std::string_view> SliceAt(const std::vector<std::string_view>& tokens, std::size_t place, Random& random)
+{
+    const auto first = tokens.begin() + static_cast<std::ptrdiff_t>(place);
+    return {first, first + static_cast<std::ptrdiff_t>(SpanAt(tokens, place, random))};
+}
+
+void Insert(std::vector<std::string_view>& tokens, std::size_t place, const std::vector<std::string_view>& slice)
+{
+    tokens.insert(At(tokens, place), slice.begin(), slice.end());
+}
+
 } // namespace
 
 MachineInputs::MachineInputs(const std::string& sample) : m_sample(ContentOf(sample))
@@ -209,38 +225,29 @@ void MachineInputs::MutateTokens(Tokens& tokens, Random& random) const
     if (random.OneIn(2))
         return ChangeNumber(tokens, random);
     const std::size_t place = PlaceIn(tokens, random);
-    const std::size_t other = PlaceIn(tokens, random);
-    const std::size_t end = std::clamp(other, place, std::min(place + 12, tokens.size()));
     switch (random.Below(9))
     {
     case 0:
-        std::swap(tokens[place], tokens[other]);
+        std::swap(tokens[place], tokens[PlaceIn(tokens, random)]);
         return;
     case 1:
-        tokens[place] = tokens[other];
+        tokens[place] = tokens[PlaceIn(tokens, random)];
         return;
     case 2:
         tokens.erase(At(tokens, place));
         return;
     case 3:
-        tokens.erase(At(tokens, place), At(tokens, end));
+        tokens.erase(At(tokens, place), At(tokens, place + SpanAt(tokens, place, random)));
         return;
     case 4:
-    {
-        const Tokens copy(At(tokens, place), At(tokens, end));
-        tokens.insert(At(tokens, other), copy.begin(), copy.end());
-        return;
-    }
+        return Insert(tokens, PlaceIn(tokens, random), SliceAt(tokens, place, random));
     case 5:
         tokens.insert(At(tokens, place), OddToken(random));
         return;
     case 6:
     {
-        const Tokens splice = TokensOf(random.Pick(m_texts));
-        const std::size_t first = random.Below(splice.size());
-        const std::size_t count = std::min(random.Below(30), splice.size() - first);
-        tokens.insert(At(tokens, place), &splice[first], &splice[first] + count);
-        return;
+        const Tokens others = TokensOf(random.Pick(m_texts));
+        return Insert(tokens, place, SliceAt(others, random.Below(others.size()), random));
     }
     default:
         tokens[place] = OddToken(random);

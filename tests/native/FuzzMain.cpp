@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <gtest/gtest.h>
 #include <sanitizer/common_interface_defs.h>
+#include <string_view>
 #include <unistd.h>
 
 // The sanitizers look for these names.
@@ -31,18 +32,34 @@ namespace
 // Far beyond what any test case takes.
 constexpr unsigned kSecondsOfACase = 300;
 
-// Without the C library's files: they take memory, and the heap may be broken.
+void Write(int file, std::string_view bytes)
+{
+    while (!bytes.empty())
+    {
+        const ssize_t written = write(file, bytes.data(), bytes.size());
+        if (written <= 0)
+            return;
+        bytes.remove_prefix(static_cast<std::size_t>(written));
+    }
+}
+
+// Without the C library's streams: they take memory, and the heap may be broken.
 void KeepInputOfTheEnd()
 {
     const FuzzInput& input = CurrentInput();
-    char file[200] = {};
-    std::snprintf(file, sizeof file, "fuzz/%s-%u-%u.bin", input.kind, input.seed, input.number);
-    const int kept = open(file, O_WRONLY | O_CREAT | O_TRUNC, 0644);
-    if (kept < 0 || write(kept, input.bytes.data(), input.bytes.size()) < 0)
-        std::perror(file);
+    if (input.bytes.data() == nullptr)
+        return; // it ends between two test cases
+    char path[200] = {};
+    std::snprintf(path, sizeof path, "fuzz/%s-%u-%u.bin", input.kind, input.seed, input.number);
+    const int kept = open(path, O_WRONLY | O_CREAT | O_TRUNC, 0644);
+    Write(kept, input.bytes);
     close(kept);
-    std::fprintf(stderr, "Ended by input %u of seed %u, kept in %s; again: ./test.sh --seed %u --filter '*%s*/%u'\n",
-                 input.number, input.seed, file, input.seed, input.kind, input.seed);
+    char text[500] = {};
+    std::snprintf(text, sizeof text,
+                  "Ended by input %u of seed %u, kept in %s; again: ./test.sh --arch native-asan --seed %u --filter "
+                  "'*%s*/%u'\n",
+                  input.number, input.seed, path, input.seed, input.kind, input.seed);
+    Write(STDERR_FILENO, text);
 }
 
 void EndHungProgram(int)
@@ -54,7 +71,11 @@ void EndHungProgram(int)
 class HangGuard : public testing::EmptyTestEventListener
 {
     void OnTestStart(const testing::TestInfo&) override { alarm(kSecondsOfACase); }
-    void OnTestEnd(const testing::TestInfo&) override { alarm(0); }
+    void OnTestEnd(const testing::TestInfo&) override
+    {
+        alarm(0);
+        CurrentInput() = {}; // its bytes have gone
+    }
 };
 } // namespace
 
