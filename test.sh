@@ -31,13 +31,14 @@ parse_options() {
         case "$1 ${2:-}" in
         "--arch x64" | "--arch x86" | "--arch x64-checked" | "--arch native-asan") arches=("$2") && shift ;;
         "--filter "?*) filter=$2 && shift ;;
-        "--seed "[0-9]*) seed=$2 && shift ;;
+        "--seed "?*) seed=$2 && shift ;;
         "--long "*) long=true ;;
         "--help "*) usage && exit ;;
         *) refuse ;;
         esac
         shift
     done
+    [[ -z $seed || $seed =~ ^[0-9]+$ ]] || refuse
     [ -z "$long" ] || seed=${seed:-$((RANDOM * 32768 + RANDOM))}
     [ -z "$seed" ] || say "Seed: $seed"
 }
@@ -62,6 +63,8 @@ build_all() {
     fi
     for arch in "${arches[@]}"; do
         build_preset "$arch"
+        # Not run here, but it must not rot.
+        [[ $arch != x64 && $arch != x86 ]] || build_preset "$arch" quorvane_bench
     done
     x86_usable=true
     [ -z "$preparing" ] || wait "$preparing" || x86_usable=false

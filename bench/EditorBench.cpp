@@ -98,23 +98,29 @@ Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& 
     return comparison;
 }
 
+// What the editor shows for either row, when neither is shown for the first time.
+std::array<EditorState, 2> EditorBench::StatesOf(const EditorKind& kind, const refhost::Machine& machine,
+                                                 const std::function<void(HWND, std::size_t)>& select)
+{
+    std::array<EditorState, 2> states;
+    const auto show = [&](std::size_t change) { return [&, change](HWND dialog) { select(dialog, change); }; };
+    const auto read = [&](std::size_t change) {
+        return [&, change](HWND dialog) {
+            select(dialog, change);
+            states[change] = ReadEditor(kind, dialog);
+        };
+    };
+    RunEditor(kind, machine, {show(0), show(1), read(0), read(1)});
+    return states;
+}
+
 EditorBench::ChangeTimes EditorBench::Change(const std::string& name, const EditorKind& kind,
                                              const refhost::Machine& machine, const Selection& selection, int rounds)
 {
     const auto select = [&](HWND dialog, std::size_t change) {
         Select(dialog, selection.listId, selection.rows[change % 2]);
     };
-    std::array<EditorState, 2> states;
-    RunEditor(kind, machine,
-              {[&](HWND dialog) { select(dialog, 0); }, [&](HWND dialog) { select(dialog, 1); },
-               [&](HWND dialog) {
-                   select(dialog, 0);
-                   states[0] = ReadEditor(kind, dialog);
-               },
-               [&](HWND dialog) {
-                   select(dialog, 1);
-                   states[1] = ReadEditor(kind, dialog);
-               }});
+    const std::array<EditorState, 2> states = StatesOf(kind, machine, select);
     FloorEditor floor(m_library, kind, states[1]);
     const FloorChange changes[] = {{kind, states[1], states[0], selection.rebuilds},
                                    {kind, states[0], states[1], selection.rebuilds}};

@@ -6,6 +6,9 @@
 #include "bench/Stage.h"
 #include "refhost/Machine.h"
 
+#include <array>
+#include <functional>
+
 // Measures editors against their floor, which learns from the editor itself what it must show.
 class EditorBench
 {
@@ -35,6 +38,8 @@ public:
                        const Selection& selection, int rounds);
 
 private:
+    std::array<EditorState, 2> StatesOf(const EditorKind& kind, const refhost::Machine& machine,
+                                        const std::function<void(HWND, std::size_t)>& select);
     void RunEditor(const EditorKind& kind, const refhost::Machine& machine, const std::vector<Stage::Step>& steps);
 
     Stage& m_stage;

@@ -65,6 +65,7 @@ std::vector<std::wstring> KeysOf(const std::wstring& section, const std::wstring
         keys.emplace_back(key);
     return keys;
 }
+
 std::wstring MakeLanguageFolder(int keys)
 {
     const std::wstring folder = ProgramFolder() + L"bench-lang";

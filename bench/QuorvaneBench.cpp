@@ -71,7 +71,8 @@ public:
         m_bench.emplace(stage, library.module, *library.editors, ProgramFolder() + L"lang\\en");
         MeasureEditors();
         MeasureGrowth();
-        MeasureMemory(m_report, "peak memory, editors and floors with 10,000 rows");
+        if (m_options.only.empty())
+            MeasureMemory(m_report, "peak memory, editors and floors with 10,000 rows");
         return m_report;
     }
 
@@ -134,7 +135,8 @@ void Bench::MeasureEditors()
     const refhost::Machine sample = SampleMachine();
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})
         Opening(std::string("open and close ") + kind->name, *kind, sample);
-    MeasureMemory(m_report, "peak memory, editors and floors with the sample machine");
+    if (m_options.only.empty())
+        MeasureMemory(m_report, "peak memory, editors and floors with the sample machine");
     const refhost::Machine large =
         WithUserSchemes(WithFactorySchemes(WithConfigs(sample, kManyConfigs), kManyFactorySchemes), kManySchemes);
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})
@@ -147,6 +149,7 @@ void Bench::MeasureEditors()
              {IDC_LIST_CFG, {0, 1}, {true, IDC_LIST_MODE}});
     Changing("change of mode", kPrintModeEditor, sample, kBetweenModes);
 }
+
 void Bench::MeasureGrowth()
 {
     const refhost::Machine sample = SampleMachine();

@@ -25,10 +25,10 @@ ReadyMessages::ReadyMessages(const WindowState& from, const WindowState& to, con
         };
         if (before.text != after.text)
             control.messages.push_back({WM_SETTEXT, 0, 0, after.text, true});
-        const bool bRebuild = rebuilt.count(after.id) != 0 || before.rows != after.rows;
-        if (bRebuild)
+        const bool isRebuilt = rebuilt.count(after.id) != 0 || before.rows != after.rows;
+        if (isRebuilt)
             FillRows(control, after);
-        if (bRebuild || before.selected != after.selected)
+        if (isRebuilt || before.selected != after.selected)
             add(after.Is(L"ListBox") ? LB_SETCURSEL : CB_SETCURSEL, static_cast<WPARAM>(after.selected), 0);
         if (before.check != after.check)
             add(BM_SETCHECK, static_cast<WPARAM>(after.check), 0);
@@ -47,18 +47,18 @@ ReadyMessages::ReadyMessages(const WindowState& from, const WindowState& to, con
 
 void ReadyMessages::FillRows(Control& control, const ControlState& state)
 {
-    const bool bList = state.Is(L"ListBox");
+    const bool isList = state.Is(L"ListBox");
     const auto add = [&](UINT message, WPARAM wParam, LPARAM lParam) {
         control.messages.push_back({message, wParam, lParam, {}, false});
     };
     add(WM_SETREDRAW, FALSE, 0);
-    add(bList ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
+    add(isList ? LB_RESETCONTENT : CB_RESETCONTENT, 0, 0);
     for (std::size_t row = 0; row < state.rows.size(); ++row)
     {
         control.messages.push_back(
-            {static_cast<UINT>(bList ? LB_ADDSTRING : CB_ADDSTRING), 0, 0, state.rows[row], true});
+            {static_cast<UINT>(isList ? LB_ADDSTRING : CB_ADDSTRING), 0, 0, state.rows[row], true});
         if (state.data[row] != 0)
-            add(bList ? LB_SETITEMDATA : CB_SETITEMDATA, row, state.data[row]);
+            add(isList ? LB_SETITEMDATA : CB_SETITEMDATA, row, state.data[row]);
     }
     add(WM_SETREDRAW, TRUE, 0);
 }

@@ -24,7 +24,7 @@ private:
         UINT message;
         WPARAM wParam;
         LPARAM lParam;
-        std::wstring text; // taken for the last parameter where it is not empty or the message sets a text
+        std::wstring text; // stands for the last parameter where there is one
         bool hasText;
     };
 

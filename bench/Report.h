@@ -28,6 +28,18 @@ struct Growth
     std::vector<double> sizes;
     std::vector<double> subject; // medians
     std::vector<double> baseline;
+
+    double Exponent() const { return GrowthExponent(sizes, subject); }
+    // Between the two largest sizes, where nothing constant hides it.
+    double LastStep() const { return LastStep(subject); }
+    double BaselineExponent() const { return GrowthExponent(sizes, baseline); }
+    double BaselineLastStep() const { return LastStep(baseline); }
+
+private:
+    double LastStep(const std::vector<double>& costs) const
+    {
+        return GrowthExponent({sizes.end() - 2, sizes.end()}, {costs.end() - 2, costs.end()});
+    }
 };
 
 struct Value

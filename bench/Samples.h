@@ -13,7 +13,6 @@ class Samples
 {
 public:
     void Add(double value) { m_values.push_back(value); }
-    bool IsEmpty() const { return m_values.empty(); }
 
     double Median() const { return Quantile(0.5); }
     double Percentile95() const { return Quantile(0.95); }
