@@ -30,7 +30,7 @@ HMODULE ModuleAt(const void* address)
 bool IsOurs(HMODULE module)
 {
     return !module || module == GetModuleHandleW(nullptr) || module == GetModuleHandleW(L"Quorvane.dll") ||
-           module == GetModuleHandleW(L"msvcrt.dll");
+           module == GetModuleHandleW(L"MsAbiHost.dll") || module == GetModuleHandleW(L"msvcrt.dll");
 }
 
 // Reserved and not committed: what nobody touches but by mistake.
@@ -40,6 +40,20 @@ bool TouchesGuardedPage(const EXCEPTION_RECORD& record)
     return record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION &&
            VirtualQuery(reinterpret_cast<const void*>(record.ExceptionInformation[1]), &page, sizeof page) &&
            page.State == MEM_RESERVE;
+}
+
+// What was tried at the address.
+const char* Access(const EXCEPTION_RECORD& record)
+{
+    switch (record.ExceptionInformation[0])
+    {
+    case EXCEPTION_READ_FAULT:
+        return "reading";
+    case EXCEPTION_WRITE_FAULT:
+        return "writing";
+    default:
+        return "executing";
+    }
 }
 
 void Print(const EXCEPTION_RECORD& record, HMODULE module)
@@ -52,7 +66,7 @@ void Print(const EXCEPTION_RECORD& record, HMODULE module)
                                                 reinterpret_cast<ULONG_PTR>(module)),
                 name);
     if (record.ExceptionCode == EXCEPTION_ACCESS_VIOLATION)
-        std::printf(", %s address %llx", record.ExceptionInformation[0] ? "writing" : "reading",
+        std::printf(", %s address %llx", Access(record),
                     static_cast<unsigned long long>(record.ExceptionInformation[1]));
     std::printf("\n");
     std::fflush(stdout);

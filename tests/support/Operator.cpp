@@ -130,9 +130,9 @@ void Operator::TurnWheel(const Window& window, int notches)
 
 void Operator::Key(int virtualKey, KeyModifiers modifiers)
 {
+    // Where a dialog has just closed, the window system may be about to give the focus back.
+    WaitFor("a window to have the focus", [this] { return Focus().Exists(); });
     const Window target = Focus();
-    if (!target.Exists())
-        Fail("no window has the focus");
     SetModifiers(modifiers);
     const bool alt = modifiers.alt;
     const auto key = static_cast<WPARAM>(virtualKey);

@@ -14,7 +14,7 @@ constexpr wchar_t kClassName[] = L"TestMarks";
 // A key becomes a character, a closing window becomes a command: two steps are the longest way a message goes.
 constexpr int kMarksToSettle = 3;
 
-UiThread* AgentOwner(HWND window)
+UiThread* OwnerOf(HWND window)
 {
     return reinterpret_cast<UiThread*>(GetWindowLongPtrW(window, GWLP_USERDATA));
 }
@@ -30,7 +30,7 @@ UiThread::UiThread() : m_id(GetCurrentThreadId())
     m_window =
         CreateWindowExW(0, kClassName, nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, windowClass.hInstance, nullptr);
     if (!m_window)
-        throw std::runtime_error("no window for the window for the marks");
+        throw std::runtime_error("no window for the marks");
     SetWindowLongPtrW(m_window, GWLP_USERDATA, reinterpret_cast<LONG_PTR>(this));
 }
 
@@ -44,7 +44,7 @@ LRESULT CALLBACK UiThread::WindowProc(HWND window, UINT message, WPARAM wParam, 
     if (message == kRun)
         (*reinterpret_cast<const std::function<void()>*>(lParam))();
     else if (message == kMark)
-        AgentOwner(window)->Arrived(static_cast<unsigned>(wParam));
+        OwnerOf(window)->Arrived(static_cast<unsigned>(wParam));
     else
         return DefWindowProcW(window, message, wParam, lParam);
     return 0;
