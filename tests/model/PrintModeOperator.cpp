@@ -73,7 +73,7 @@ void PrintModeOperator::UseCommonPage()
     switch (Luck().Below(4))
     {
     case 0:
-        return Type(m_editor.Edit(IDC_EDIT_NAME), Luck().OneOf(kNames));
+        return Type(m_editor.Edit(IDC_EDIT_NAME), Luck().OneOf(Names()));
     case 1:
         return Type(m_editor.Edit(Luck().OneOf(kValues)), Luck().OneOf(Luck().OneIn(5) ? kNoNumbers : kNumbers));
     default:
@@ -114,7 +114,7 @@ void PrintModeOperator::WorkOn(int)
     RequireFields(dialog, m_model.OpenedConfig());
     const bool canChangeAll = dialog.Field(IDC_EDIT_CFG_XDPI).IsEnabled();
     if (!Luck().OneIn(3))
-        TypeInto(dialog, IDC_EDIT_CFG_NAME, Luck().OneOf(kNames));
+        TypeInto(dialog, IDC_EDIT_CFG_NAME, Luck().OneOf(Names()));
     for (int i = Luck().Below(4); canChangeAll && i > 0; --i)
         TypeInto(dialog, Luck().OneOf(kNumberFields), Luck().OneOf(Luck().OneIn(6) ? kNoIntegers : kIntegers));
     if (canChangeAll && Luck().OneIn(3))

@@ -251,6 +251,13 @@ void RandomOperator::PressAnyKey()
     Do("presses key " + std::to_string(key) + " in " + Utf8(focus) + " " + Name(Op().Focus()), [&] { Op().Key(key); });
 }
 
+const Texts& RandomOperator::Names()
+{
+    static const Texts names = {
+        L"", L"Poster", L"  padded  ", L"\u6253\u5370", L"\u00C9t\u00E9", std::wstring(70, L'x')};
+    return names;
+}
+
 void RandomOperator::LeaveEditor()
 {
     const Window& dialog = m_editor.Dialog();

@@ -7,9 +7,6 @@
 
 #include <map>
 
-// What an operator types for a name.
-inline const Texts kNames = {L"", L"Poster", L"  padded  ", L"\u6253\u5370", L"\u00C9t\u00E9", std::wstring(70, L'x')};
-
 // An operator who does whatever comes to mind, on an editor's real windows. After each action the model hears what the
 // controls told the dialogs; then the host's data and all that the controls show must be what the model has.
 class RandomOperator
@@ -53,6 +50,9 @@ protected:
     void Type(const EditField& field, const std::wstring& text);
     void PressAnyKey();
     void LeaveEditor();
+
+    // What may be typed for a name.
+    static const Texts& Names();
 
     Operator& Op() { return m_editor.Op(); }
     Chance& Luck() { return m_run.chance; }

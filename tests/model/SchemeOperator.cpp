@@ -81,7 +81,7 @@ void SchemeOperator::UseControls(SchemePage page)
     {
     case SchemePage::Common:
         if (Luck().OneIn(4))
-            return Type(m_editor.Edit(page, IDC_EDIT_NAME), Luck().OneOf(kNames));
+            return Type(m_editor.Edit(page, IDC_EDIT_NAME), Luck().OneOf(Names()));
         return combo({IDC_CMB_ENABLE, IDC_CMB_SPEED, IDC_CMB_DIRECTION, IDC_CMB_MATERIAL, IDC_CMB_WAIT_STEP,
                       IDC_CMB_WAVE, IDC_CMB_LAYOUT, IDC_CMB_HEAD, IDC_CMB_CHANNEL});
     case SchemePage::Mode:

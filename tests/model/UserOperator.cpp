@@ -19,7 +19,7 @@ void UserOperator::WorkOnOther(int)
     const AddUserSchemeDialog dialog = m_editor.ExpectAddScheme();
     RequireProposal(dialog);
     if (!Luck().OneIn(3))
-        dialog.Name().Type(Luck().OneOf(kNames));
+        dialog.Name().Type(Luck().OneOf(Names()));
     if (!Luck().OneIn(3) && dialog.Source().RowCount() > 0)
         dialog.Source().Pick(Luck().Below(dialog.Source().RowCount()));
     const std::wstring name = dialog.Name().Text();
