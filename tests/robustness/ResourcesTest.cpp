@@ -9,7 +9,6 @@ namespace
 class HeldResources : public testing::Test
 {
 protected:
-    HeldResources() = default;
     ~HeldResources() override { DestroyWindow(m_first); }
 
     static HPEN MakePen() { return CreatePen(PS_SOLID, 3, RGB(1, 2, 3)); }
