@@ -59,7 +59,8 @@ void JsonReader::RefuseUnknownMembers() const
 {
     for (const auto& member : m_object.items())
         if (m_known.count(member.key()) == 0)
-            Refuse(PlaceOf(Excerpt(member.key(), kLongestShown)), "a machine file has no such value here");
+            Refuse(PlaceOf(member.key().empty() ? "\"\"" : Excerpt(member.key(), kLongestShown)),
+                   "a machine file has no such value here");
 }
 
 const Json& JsonReader::Member(const char* key)

@@ -126,6 +126,8 @@ TEST(MachineText, MissingUnknownAndDoubleValuesAreRefused)
     ExpectRefusal(SmallMachineWith("\"xResolution\": 720,", ""), "configurations[0].xResolution: is missing");
     ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, \"zResolution\": 1"),
                   "configurations[0].zResolution: a machine file has no such value");
+    ExpectRefusal(SmallMachineWith("\"version\": 1", "\"version\": 1, \"\": 1"),
+                  "\"\": a machine file has no such value");
     ExpectRefusal(SmallMachineWith("\"xResolution\": 720", "\"xResolution\": 720, \"xResolution\": 720"),
                   "\"xResolution\" is there twice");
 }
