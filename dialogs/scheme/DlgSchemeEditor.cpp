@@ -7,7 +7,7 @@
 
 CDlgSchemeEditor::CDlgSchemeEditor(UINT nIDTemplate, BOOL bUserEditor)
     : CDlgEditor(nIDTemplate, L"DLG_PRINT_SCHEME", bUserEditor ? SAVE_USER_DATA : SAVE_FACTORY_DATA),
-      m_bUserEditor(bUserEditor), m_nFirstDeletableId(bUserEditor ? FIRST_USER_SCHEME : 0)
+      m_bUserEditor(bUserEditor)
 {
 }
 
@@ -53,7 +53,7 @@ void CDlgSchemeEditor::OnDeleteScheme()
 {
     const int nRow = m_lstSchemes.GetCurSel();
     const int nSchemeId = SelectedSchemeId();
-    if (m_lstConfigs.GetCurSel() < 0 || nSchemeId < m_nFirstDeletableId)
+    if (m_lstConfigs.GetCurSel() < 0 || nSchemeId < FirstDeletableId())
         return;
     m_lstSchemes.DeleteString(static_cast<UINT>(nRow));
     m_deletions.Add(nSchemeId);
@@ -86,7 +86,7 @@ void CDlgSchemeEditor::SelectScheme(bool bSaveFirst)
     if (bSaveFirst)
         SavePages();
     const int nSchemeId = SelectedSchemeId();
-    EnableControl(m_btnDelete, nSchemeId >= m_nFirstDeletableId);
+    EnableControl(m_btnDelete, nSchemeId >= FirstDeletableId());
     OnShowingScheme(nSchemeId);
     for (CSchemePage* pPage : m_vecPages)
         pPage->ShowScheme(nSchemeId);

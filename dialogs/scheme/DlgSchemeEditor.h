@@ -51,9 +51,10 @@ protected:
 
 private:
     void SavePages();
+    // A factory scheme is only a preset in the user editor.
+    int FirstDeletableId() const { return m_bUserEditor ? FIRST_USER_SCHEME : 0; }
 
     std::vector<CSchemePage*> m_vecPages;
     CPendingDeletions m_deletions;
     BOOL m_bUserEditor;
-    int m_nFirstDeletableId;
 };
