@@ -54,7 +54,7 @@ install_packages() {
 
 # The i386 system comes over the network while the compilers work.
 build_all() {
-    local arch preparing=
+    local arch preparing= targets
     if tests_x86; then
         x86_prepare >"$build/x86-skipped" &
         preparing=$!
@@ -62,9 +62,10 @@ build_all() {
         trap 'wait' EXIT
     fi
     for arch in "${arches[@]}"; do
-        build_preset "$arch"
+        targets=(all)
         # Not run here, but it must not rot.
-        [[ $arch != x64 && $arch != x86 ]] || build_preset "$arch" quorvane_bench
+        [[ $arch != x64 && $arch != x86 ]] || targets+=(quorvane_bench)
+        build_preset "$arch" "${targets[@]}"
     done
     x86_usable=true
     [ -z "$preparing" ] || wait "$preparing" || x86_usable=false
