@@ -71,13 +71,19 @@ public:
         m_bench.emplace(stage, library.module, *library.editors, ProgramFolder() + L"lang\\en");
         MeasureEditors();
         MeasureGrowth();
-        if (m_options.only.empty())
-            MeasureMemory(m_report, "peak memory, editors and floors with 10,000 rows");
+        Memory("peak memory, editors and floors with 10,000 rows");
         return m_report;
     }
 
 private:
     bool Wanted(const std::string& name) const { return name.find(m_options.only) != std::string::npos; }
+
+    // Only where all cases were measured does the peak stand for something.
+    void Memory(const std::string& name)
+    {
+        if (m_options.only.empty())
+            MeasureMemory(m_report, name);
+    }
 
     void Opening(const std::string& name, const EditorKind& kind, const refhost::Machine& machine)
     {
@@ -135,8 +141,7 @@ void Bench::MeasureEditors()
     const refhost::Machine sample = SampleMachine();
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})
         Opening(std::string("open and close ") + kind->name, *kind, sample);
-    if (m_options.only.empty())
-        MeasureMemory(m_report, "peak memory, editors and floors with the sample machine");
+    Memory("peak memory, editors and floors with the sample machine");
     const refhost::Machine large =
         WithUserSchemes(WithFactorySchemes(WithConfigs(sample, kManyConfigs), kManyFactorySchemes), kManySchemes);
     for (const EditorKind* kind : {&kPrintModeEditor, &kFactoryEditor, &kUserEditor})

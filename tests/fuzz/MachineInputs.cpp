@@ -169,7 +169,8 @@ std::string Joined(const std::vector<std::string_view>& tokens)
     return text;
 }
 
-auto At(std::vector<std::string_view>& tokens, std::size_t place)
+template <class Tokens>
+auto At(Tokens& tokens, std::size_t place)
 {
     return tokens.begin() + static_cast<std::ptrdiff_t>(place);
 }
@@ -182,8 +183,7 @@ std::size_t SpanAt(const std::vector<std::string_view>& tokens, std::size_t plac
 
 std::vector<std::string_view> SliceAt(const std::vector<std::string_view>& tokens, std::size_t place, Random& random)
 {
-    const auto first = tokens.begin() + static_cast<std::ptrdiff_t>(place);
-    return {first, first + static_cast<std::ptrdiff_t>(SpanAt(tokens, place, random))};
+    return {At(tokens, place), At(tokens, place + SpanAt(tokens, place, random))};
 }
 
 void Insert(std::vector<std::string_view>& tokens, std::size_t place, const std::vector<std::string_view>& slice)

@@ -1,9 +1,5 @@
 #include "tests/model/UserOperator.h"
 
-namespace
-{
-}
-
 UserOperator::UserOperator(const UserEditor& editor, UserModel& model, SeededRun& run)
     : SchemeOperator(editor, model, run, IDD_SCHEME_USER), m_editor(editor), m_model(model)
 {
