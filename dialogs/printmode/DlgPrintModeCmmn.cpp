@@ -92,6 +92,7 @@ int CDlgPrintModeCmmn::ApplyLanguage()
 void CDlgPrintModeCmmn::AttachMode(IPrintMode* pMode)
 {
     m_pMode = pMode;
+    m_strRefused.Empty(); // with each visit of a mode the operator is told again
     LoadFromMode();
 }
 
