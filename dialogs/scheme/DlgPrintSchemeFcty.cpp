@@ -78,7 +78,8 @@ void CDlgPrintSchemeFcty::OnAddScheme()
     IPrintScheme* pScheme = AddSchemeTo(pList);
     if (!pScheme)
         return;
-    pScheme->SetName(NewSchemeName(HostText(pConfig->GetName()), pList->GetCount()).c_str());
+    const std::optional<std::wstring> configName = WideText(pConfig->GetName());
+    pScheme->SetName(NewSchemeName(configName ? configName->c_str() : nullptr, pList->GetCount()).c_str());
     pScheme->SetConfigIndex(static_cast<std::uint8_t>(m_lstConfigs.GetCurSel()));
     const auto nIndex = static_cast<int>(pList->GetCount() - 1);
     const int nRow = AddSchemeRow(HostText(pScheme->GetName()), nIndex);
