@@ -104,13 +104,15 @@ void CDlgPrintSchemeFcty::OnCopyScheme()
 
 void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
 {
-    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
-    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
-    IFactorySchemeList* pList = pConfig ? FactorySchemes() : nullptr;
+    IFactorySchemeList* pList = FactorySchemes();
     IPrintScheme* pCopy = AddSchemeTo(pList);
     if (!pCopy)
         return;
     CopyParams(*pCopy, pList->GetAt(static_cast<std::uint32_t>(nSourceId)));
+    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
+    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
+    if (!pConfig)
+        return; // the copy stays, where the host put it
     pCopy->SetConfigIndex(static_cast<std::uint8_t>(nConfig));
     pCopy->SetName(CopiedSchemeName(pConfig->GetXResolution(), pConfig->GetYResolution()).c_str());
     if (static_cast<int>(nConfig) == m_lstConfigs.GetCurSel())
