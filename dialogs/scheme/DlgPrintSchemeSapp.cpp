@@ -18,7 +18,7 @@ BOOL CDlgPrintSchemeSapp::OnInitDialog()
         return FALSE;
     InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillSwitch(m_cmbSmallMode, L"", L"");
-    m_cmbSmallMode.SetCurSel(1);
+    m_cmbSmallMode.SetCurSel(m_nLoadedMode);
     UpdateCtrlState();
     LoadFromScheme();
     return TRUE;
@@ -58,7 +58,8 @@ void CDlgPrintSchemeSapp::LoadFromScheme()
 // Alone among the pages this one writes a preset too: what it showed goes back unchanged.
 void CDlgPrintSchemeSapp::SaveToScheme()
 {
-    UpdateData(TRUE); // a refused text leaves the value as it was
+    if (!UpdateData(TRUE))
+        UpdateData(FALSE); // the value stays as it was, and shows again: a locked field must not ask a second time
     IPrintScheme* pScheme = m_nSchemeId >= 0 ? FactoryScheme() : nullptr;
     if (!pScheme)
         return;

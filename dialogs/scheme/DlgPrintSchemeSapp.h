@@ -21,5 +21,5 @@ protected:
 private:
     CComboBox m_cmbSmallMode;
     int m_nSmallOffset = 0;
-    int m_nLoadedMode = 0; // what a locked switch stands for, even a value that it has no row for
+    int m_nLoadedMode = 1; // what a locked switch stands for, even a value that it has no row for
 };
