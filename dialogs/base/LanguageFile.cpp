@@ -6,6 +6,26 @@
 
 namespace
 {
+// Closes the file on every way out, one without memory included.
+class CFileHandle
+{
+public:
+    explicit CFileHandle(HANDLE hFile) : m_hFile(hFile) {}
+    ~CFileHandle()
+    {
+        if (IsOpen())
+            CloseHandle(m_hFile);
+    }
+    CFileHandle(const CFileHandle&) = delete;
+    CFileHandle& operator=(const CFileHandle&) = delete;
+
+    bool IsOpen() const { return m_hFile != INVALID_HANDLE_VALUE; }
+    HANDLE Get() const { return m_hFile; }
+
+private:
+    HANDLE m_hFile;
+};
+
 std::string ReadHandle(HANDLE file)
 {
     LARGE_INTEGER size{};
@@ -32,13 +52,9 @@ std::string ReadWholeFile(const std::wstring& path)
     if (!IsProfilePath(path))
         return {};
     const DWORD share = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-    HANDLE file =
-        CreateFileW(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
-    if (file == INVALID_HANDLE_VALUE)
-        return {};
-    std::string bytes = ReadHandle(file);
-    CloseHandle(file);
-    return bytes;
+    const CFileHandle file(
+        CreateFileW(path.c_str(), GENERIC_READ, share, nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr));
+    return file.IsOpen() ? ReadHandle(file.Get()) : std::string();
 }
 
 CLanguageText ReadText(const std::wstring& path)
