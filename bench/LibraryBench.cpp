@@ -1,6 +1,6 @@
 #include "bench/LibraryBench.h"
 
-#include "dialogs/base/HostContext.h"
+#include "dialogs/base/Language.h"
 #include "host/Quorvane.h"
 
 #include <fstream>

@@ -4,12 +4,12 @@
 
 CCommonControls::CCommonControls()
 {
-    wchar_t szLibrary[MAX_PATH + 1] = {};
-    ::GetModuleFileName(AfxGetInstanceHandle(), szLibrary, MAX_PATH);
+    wchar_t library[MAX_PATH + 1] = {};
+    ::GetModuleFileName(AfxGetInstanceHandle(), library, MAX_PATH);
     ACTCTX context = {};
     context.cbSize = sizeof(context);
     context.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID | ACTCTX_FLAG_HMODULE_VALID;
-    context.lpSource = szLibrary;
+    context.lpSource = library;
     context.lpResourceName = MAKEINTRESOURCE(2); // the library's manifest
     context.hModule = AfxGetInstanceHandle();
     m_hContext = ::CreateActCtx(&context);

@@ -3,39 +3,38 @@
 #include "frame/CommonControls.h"
 
 #include <cwchar>
+#include <string>
 
 namespace
 {
-class CurrentResources
+class CCurrentResources
 {
 public:
-    explicit CurrentResources(HINSTANCE hInstance) : m_hOld(AfxGetResourceHandle()) { AfxSetResourceHandle(hInstance); }
-    ~CurrentResources() { AfxSetResourceHandle(m_hOld); }
-    CurrentResources(const CurrentResources&) = delete;
-    CurrentResources& operator=(const CurrentResources&) = delete;
+    explicit CCurrentResources(HINSTANCE module) : m_hOld(AfxGetResourceHandle()) { AfxSetResourceHandle(module); }
+    ~CCurrentResources() { AfxSetResourceHandle(m_hOld); }
+    CCurrentResources(const CCurrentResources&) = delete;
+    CCurrentResources& operator=(const CCurrentResources&) = delete;
 
 private:
     HINSTANCE m_hOld;
 };
 
 // Null when there is no such file: then nothing is found under the null handle either and no dialog comes up.
-HINSTANCE LoadBesideHost(LPCTSTR pszFileName)
+HINSTANCE LoadBesideHost(const wchar_t* fileName)
 {
-    wchar_t szExecutable[MAX_PATH + 1] = {};
-    ::GetModuleFileName(nullptr, szExecutable, MAX_PATH);
-    if (wchar_t* pszBackslash = std::wcsrchr(szExecutable, L'\\'))
-        *pszBackslash = L'\0';
-    CString strPath;
-    strPath.Format(L"%s\\%s", szExecutable, pszFileName);
-    return ::LoadLibrary(strPath);
+    wchar_t executable[MAX_PATH + 1] = {};
+    ::GetModuleFileName(nullptr, executable, MAX_PATH);
+    if (wchar_t* backslash = std::wcsrchr(executable, L'\\'))
+        *backslash = L'\0';
+    return ::LoadLibrary((std::wstring(executable) + L"\\" + fileName).c_str());
 }
 } // namespace
 
-int RunModal(CDialog* pDialog, LPCTSTR pszLibraryFileName)
+int RunModal(CDialog* dialog, const wchar_t* libraryFileName)
 {
-    if (!pDialog)
+    if (!dialog)
         return -1;
     const CCommonControls controls;
-    const CurrentResources resources(pszLibraryFileName ? LoadBesideHost(pszLibraryFileName) : AfxGetResourceHandle());
-    return static_cast<int>(pDialog->DoModal());
+    const CCurrentResources resources(libraryFileName ? LoadBesideHost(libraryFileName) : AfxGetResourceHandle());
+    return static_cast<int>(dialog->DoModal());
 }

@@ -11,7 +11,7 @@ BOOL CQuorvaneApp::InitInstance()
     return TRUE;
 }
 
-extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD dwReason, LPVOID)
+extern "C" BOOL WINAPI DllMain(HINSTANCE, DWORD reason, LPVOID)
 {
-    return dwReason != DLL_PROCESS_ATTACH || theApp.InitInstance();
+    return reason != DLL_PROCESS_ATTACH || theApp.InitInstance();
 }

@@ -1,6 +1,6 @@
 #include "frame/QuorvaneIns.h"
 
-#include "dialogs/base/HostContext.h"
+#include "dialogs/base/EditorRun.h"
 #include "dialogs/printmode/DlgPrintMode.h"
 #include "dialogs/scheme/DlgPrintSchemeFcty.h"
 #include "dialogs/user/DlgPrintSchemeUser.h"
@@ -9,12 +9,10 @@
 namespace
 {
 template <class Dialog>
-void RunEditor(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDir)
 {
     Dialog dialog;
-    GetHostContext().pData = data;
-    GetHostContext().pControl = control;
-    SetLanguageFile(languageDir, L"Quorvane.ini");
+    BeginEditorRun(data, control, languageDir);
     RunModal(&dialog, L"Quorvane.dll");
 }
 
@@ -26,10 +24,11 @@ std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languag
         return 0;
     try
     {
-        RunEditor<Dialog>(data, control, languageDir);
+        RunEditor<Dialog>(*data, *control, languageDir);
     }
     catch (...)
     {
+        ::OutputDebugString(L"Quorvane: an exception ended the editor\n");
     }
     return 1;
 }

@@ -1,11 +1,10 @@
 #include "dialogs/base/DlgEditor.h"
 
-#include "dialogs/base/HostContext.h"
-#include "host/IHostControl.h"
+#include "dialogs/data/HostRun.h"
 #include "resources/resource.h"
 
-CDlgEditor::CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, SaveKind nSaveKind)
-    : CDialogEx(nIDTemplate), m_pszSection(pszSection), m_nSaveKind(nSaveKind)
+CDlgEditor::CDlgEditor(UINT templateId, const wchar_t* section, SaveKind saveKind)
+    : CDialogEx(templateId), m_pszSection(section), m_saveKind(saveKind)
 {
 }
 
@@ -26,8 +25,7 @@ BOOL CDlgEditor::OnInitDialog()
     CreateTab();
     AddPages();
     m_tab.SetActiveTab(0);
-    if (GetHostContext().pData)
-        FillLists();
+    FillLists();
     m_btnApply.ShowWindow(SW_HIDE);
     return TRUE;
 }
@@ -54,22 +52,22 @@ void CDlgEditor::OnOK()
     StoreEdits();
     CDialogEx::OnOK(); // first, so that nothing is handled any more should the host dispatch messages while it saves
     const CWaitCursor wait;
-    GetHostContext().pControl->SaveParameters(m_nSaveKind);
+    HostControl().SaveParameters(static_cast<std::uint32_t>(m_saveKind));
 }
 
 // Over the placeholder of the same id, and after it in the tab order.
 void CDlgEditor::CreateTab()
 {
-    CWnd* pPlaceholder = GetDlgItem(IDC_TAB);
-    RECT rc;
-    pPlaceholder->GetWindowRect(&rc);
-    ScreenToClient(&rc);
-    m_tab.Create(CMFCTabCtrl::STYLE_3D, rc, this, IDC_TAB, CMFCTabCtrl::LOCATION_TOP, FALSE);
-    ::SetWindowPos(m_tab.m_hWnd, pPlaceholder->m_hWnd, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+    CWnd* placeholder = GetDlgItem(IDC_TAB);
+    RECT rect;
+    placeholder->GetWindowRect(&rect);
+    ScreenToClient(&rect);
+    m_tab.Create(CMFCTabCtrl::STYLE_3D, rect, this, IDC_TAB, CMFCTabCtrl::LOCATION_TOP, FALSE);
+    ::SetWindowPos(m_tab.m_hWnd, placeholder->m_hWnd, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
 }
 
-void CDlgEditor::AddPage(CDialog& page, UINT nTemplate, LPCTSTR pszTabKey)
+void CDlgEditor::AddPage(CDialog& page, UINT templateId, const wchar_t* tabKey)
 {
-    page.Create(nTemplate, &m_tab);
-    m_tab.AddTab(&page, GetLanguageText(pszTabKey, L""));
+    page.Create(templateId, &m_tab);
+    m_tab.AddTab(&page, GetLanguageText(tabKey, L""));
 }

@@ -9,14 +9,14 @@
 #include <cstdint>
 
 // What SaveParameters gets.
-enum SaveKind : std::uint32_t
+enum class SaveKind : std::uint32_t
 {
-    SAVE_FACTORY_DATA = 2,
-    SAVE_USER_DATA = 3,
+    FactoryData = 2,
+    UserData = 3,
 };
 
 // What all editors share: the list of the host's configurations, the pages in a tab control, and the buttons that end
-// the run. OK asks the host to save; every other way of closing asks nothing and undoes nothing.
+// the run. OK asks the host to save. Any other way of closing sends no request, and what was changed stays changed.
 class CDlgEditor : public CDialogEx, public CDlgBase
 {
 public:
@@ -25,7 +25,7 @@ public:
 
 protected:
     // The language section of the editor's own texts.
-    CDlgEditor(UINT nIDTemplate, LPCTSTR pszSection, SaveKind nSaveKind);
+    CDlgEditor(UINT templateId, const wchar_t* section, SaveKind saveKind);
 
     void DoDataExchange(CDataExchange* pDX) override;
     BOOL OnInitDialog() override;
@@ -38,7 +38,7 @@ protected:
     // What OK writes into the host before it saves.
     virtual void StoreEdits() = 0;
 
-    void AddPage(CDialog& page, UINT nTemplate, LPCTSTR pszTabKey);
+    void AddPage(CDialog& page, UINT templateId, const wchar_t* tabKey);
 
     CMFCButton m_btnOk;
     CMFCButton m_btnCancel;
@@ -48,7 +48,7 @@ protected:
 private:
     void CreateTab();
 
-    LPCTSTR m_pszSection;
-    SaveKind m_nSaveKind;
+    const wchar_t* m_pszSection;
+    SaveKind m_saveKind;
     CMFCTabCtrl m_tab;
 };

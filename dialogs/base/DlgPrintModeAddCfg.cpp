@@ -1,15 +1,11 @@
 #include "dialogs/base/DlgPrintModeAddCfg.h"
 
-#include "dialogs/base/HostText.h"
-#include "host/IPrintConfig.h"
 #include "resources/resource.h"
 
-namespace
+CDlgPrintModeAddCfg::CDlgPrintModeAddCfg() : CDialogEx(IDD_PRINT_MODE_ADD_CFG)
 {
-constexpr int MAX_NAME_CHARS = 60;
-} // namespace
-
-CDlgPrintModeAddCfg::CDlgPrintModeAddCfg() : CDialogEx(IDD_PRINT_MODE_ADD_CFG), m_strName(L"[720 X 720]") {}
+    SetValues(ConfigValues());
+}
 
 void CDlgPrintModeAddCfg::DoDataExchange(CDataExchange* pDX)
 {
@@ -32,24 +28,26 @@ BOOL CDlgPrintModeAddCfg::OnInitDialog()
     return TRUE;
 }
 
-void CDlgPrintModeAddCfg::ReadFrom(IPrintConfig& config)
+void CDlgPrintModeAddCfg::SetValues(const ConfigValues& values)
 {
-    m_nXResolution = config.GetXResolution();
-    m_nYResolution = config.GetYResolution();
-    m_nColorCount = config.GetColorCount();
-    m_nDotBits = config.GetDotBits();
-    m_nEnabled = config.GetEnabled() != 0 ? BST_CHECKED : BST_UNCHECKED;
-    m_strName = HostText(config.GetName());
+    m_nXResolution = values.xResolution;
+    m_nYResolution = values.yResolution;
+    m_nColorCount = values.colorCount;
+    m_nDotBits = values.dotBits;
+    m_nEnabled = values.enabled ? BST_CHECKED : BST_UNCHECKED;
+    m_strName = values.name.c_str();
 }
 
-void CDlgPrintModeAddCfg::WriteTo(IPrintConfig& config) const
+ConfigValues CDlgPrintModeAddCfg::GetValues() const
 {
-    config.SetXResolution(m_nXResolution);
-    config.SetYResolution(m_nYResolution);
-    config.SetColorCount(m_nColorCount);
-    config.SetDotBits(m_nDotBits);
-    config.SetEnabled(m_nEnabled);
-    SetHostName(config, m_strName);
+    ConfigValues values;
+    values.xResolution = m_nXResolution;
+    values.yResolution = m_nYResolution;
+    values.colorCount = m_nColorCount;
+    values.dotBits = m_nDotBits;
+    values.enabled = m_nEnabled == BST_CHECKED;
+    values.name = m_strName.GetString();
+    return values;
 }
 
 void CDlgPrintModeAddCfg::OnOK()
@@ -60,7 +58,7 @@ void CDlgPrintModeAddCfg::OnOK()
             return; // putting the old values back would lose what the operator typed
         m_strName.Trim();
         if (m_strName.IsEmpty())
-            m_strName = NameFromValues();
+            m_strName = NameFromValues(GetValues()).c_str();
         UpdateData(FALSE);
     }
     CDialogEx::OnOK();
@@ -68,21 +66,8 @@ void CDlgPrintModeAddCfg::OnOK()
 
 void CDlgPrintModeAddCfg::EnableFields()
 {
-    if (CWnd* pName = GetDlgItem(IDC_EDIT_CFG_NAME))
-        pName->EnableWindow(!m_bNameLocked);
-    for (int nId :
+    GetDlgItem(IDC_EDIT_CFG_NAME)->EnableWindow(!m_bNameLocked);
+    for (int id :
          {IDC_EDIT_CFG_XDPI, IDC_EDIT_CFG_YDPI, IDC_EDIT_CFG_COLORS, IDC_EDIT_CFG_DOT_BITS, IDC_CHECK_CFG_ENABLE})
-        if (CWnd* pField = GetDlgItem(nId))
-            pField->EnableWindow(!m_bParamsLocked);
-}
-
-CString CDlgPrintModeAddCfg::NameFromValues() const
-{
-    CString strName;
-    strName.Format(L"[%d X %d]", m_nXResolution, m_nYResolution);
-    if (m_nColorCount != 0)
-        strName.AppendFormat(L"[%d C]", m_nColorCount);
-    if (m_nDotBits != 0)
-        strName.AppendFormat(L"[%d B]", m_nDotBits);
-    return strName;
+        GetDlgItem(id)->EnableWindow(!m_bParamsLocked);
 }

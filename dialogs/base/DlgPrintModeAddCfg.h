@@ -1,23 +1,21 @@
 #pragma once
 
+#include "dialogs/data/Configs.h"
+
 #include <afxdialogex.h>
 
-class IPrintConfig;
-
 // The values of one print configuration: entered for a new one, renamed, or only looked at. It never talks to the
-// host by itself; its caller fills it before the run and reads it after an OK.
+// host: its caller fills the values before the run and reads them after an OK.
 class CDlgPrintModeAddCfg : public CDialogEx
 {
 public:
     CDlgPrintModeAddCfg();
 
-    // The transfer of all values in either direction; a configuration's name comes last.
-    void ReadFrom(IPrintConfig& config);
-    void WriteTo(IPrintConfig& config) const;
+    void SetValues(const ConfigValues& values);
+    ConfigValues GetValues() const;
 
     BOOL m_bNameLocked = FALSE;
     BOOL m_bParamsLocked = FALSE;
-    CString m_strName;
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
@@ -26,11 +24,11 @@ protected:
 
 private:
     void EnableFields();
-    CString NameFromValues() const;
 
+    CString m_strName;
     int m_nColorCount = 0;
     int m_nDotBits = 0;
-    int m_nXResolution = 720;
-    int m_nYResolution = 720;
-    int m_nEnabled = BST_CHECKED;
+    int m_nXResolution = 0;
+    int m_nYResolution = 0;
+    int m_nEnabled = BST_UNCHECKED;
 };

@@ -10,7 +10,7 @@ namespace
 class CFileHandle
 {
 public:
-    explicit CFileHandle(HANDLE hFile) : m_hFile(hFile) {}
+    explicit CFileHandle(HANDLE file) : m_hFile(file) {}
     ~CFileHandle()
     {
         if (IsOpen())
@@ -71,4 +71,4 @@ CLanguageText ReadText(const std::wstring& path)
 }
 } // namespace
 
-CLanguageFile::CLanguageFile(const std::wstring& strPath) : CLanguageText(ReadText(strPath)) {}
+CLanguageFile::CLanguageFile(const std::wstring& path) : CLanguageText(ReadText(path)) {}

@@ -11,5 +11,5 @@ class CLanguageFile : public CLanguageText
 {
 public:
     CLanguageFile() = default;
-    explicit CLanguageFile(const std::wstring& strPath);
+    explicit CLanguageFile(const std::wstring& path);
 };

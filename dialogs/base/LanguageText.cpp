@@ -7,20 +7,20 @@
 
 namespace
 {
-constexpr size_t kMaxTextChars = 1023;
+constexpr size_t MAX_TEXT_CHARS = 1023;
 // The end-of-file mark of old text files is a blank too.
-constexpr std::wstring_view kBlanks = L" \t\n\v\f\r\x1A";
+constexpr std::wstring_view BLANKS = L" \t\n\v\f\r\x1A";
 
 std::wstring_view TrimLeft(std::wstring_view text)
 {
-    text.remove_prefix(std::min(text.find_first_not_of(kBlanks), text.size()));
+    text.remove_prefix(std::min(text.find_first_not_of(BLANKS), text.size()));
     return text;
 }
 
 std::wstring_view Trim(std::wstring_view text)
 {
     text = TrimLeft(text);
-    return text.substr(0, text.find_last_not_of(kBlanks) + 1);
+    return text.substr(0, text.find_last_not_of(BLANKS) + 1);
 }
 
 std::wstring_view CutAtNul(std::wstring_view text)
@@ -87,10 +87,10 @@ bool IsQuoted(std::wstring_view value)
 std::wstring CutToBuffer(std::wstring_view value)
 {
     if (!IsQuoted(value))
-        return std::wstring(value.substr(0, kMaxTextChars));
+        return std::wstring(value.substr(0, MAX_TEXT_CHARS));
     value.remove_prefix(1);
-    std::wstring text(value.substr(0, kMaxTextChars));
-    if (value.size() <= kMaxTextChars + 1)
+    std::wstring text(value.substr(0, MAX_TEXT_CHARS));
+    if (value.size() <= MAX_TEXT_CHARS + 1)
         text.pop_back();
     return text;
 }
@@ -112,8 +112,8 @@ CLanguageText::CLanguageText(std::string_view bytes)
 std::wstring CLanguageText::GetText(std::wstring_view section, std::wstring_view key,
                                     std::wstring_view defaultText) const
 {
-    const std::wstring* pValue = FindValue(section, key);
-    return CutToBuffer(pValue ? std::wstring_view(*pValue) : TrimDefault(CutAtNul(defaultText)));
+    const std::wstring* value = FindValue(section, key);
+    return CutToBuffer(value ? std::wstring_view(*value) : TrimDefault(CutAtNul(defaultText)));
 }
 
 // Of sections with one name only the first counts, and of keys with one name the first in it. Lines before any section

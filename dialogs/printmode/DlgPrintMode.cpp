@@ -1,19 +1,10 @@
 #include "dialogs/printmode/DlgPrintMode.h"
 
+#include "dialogs/base/Controls.h"
 #include "dialogs/base/DlgPrintModeAddCfg.h"
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/MisreadText.h"
-#include "dialogs/base/Rows.h"
-#include "dialogs/printmode/PrintModeRules.h"
-#include "host/IConfigList.h"
-#include "host/IHostData.h"
-#include "host/IPrintConfig.h"
-#include "host/IPrintMode.h"
-#include "host/IPrintScheme.h"
-#include "host/ISchemeList.h"
-#include "host/IUserScheme.h"
+#include "dialogs/data/Configs.h"
+#include "dialogs/data/MisreadText.h"
+#include "dialogs/data/PrintModes.h"
 #include "resources/resource.h"
 
 namespace
@@ -22,17 +13,18 @@ namespace
 class CNewConfig
 {
 public:
-    explicit CNewConfig(IHostData& data) : m_data(data), m_pConfig(data.CreateConfig()) {}
+    CNewConfig() : m_pConfig(HostData().CreateConfig()) {}
     ~CNewConfig()
     {
         try
         {
             if (m_pConfig)
-                m_data.DestroyConfig(m_pConfig);
+                HostData().DestroyConfig(m_pConfig);
         }
         catch (...)
         {
             // Thrown out of a destructor it would end the host.
+            ::OutputDebugString(L"Quorvane: the host threw an exception out of DestroyConfig\n");
         }
     }
     CNewConfig(const CNewConfig&) = delete;
@@ -41,17 +33,11 @@ public:
     IPrintConfig* Get() const { return m_pConfig; }
 
 private:
-    IHostData& m_data;
     IPrintConfig* m_pConfig;
 };
-
-IConfigList* ConfigList()
-{
-    return GetHostContext().pData->GetConfigList();
-}
 } // namespace
 
-CDlgPrintMode::CDlgPrintMode() : CDlgEditor(IDD_PRINT_MODE, L"DLG_PRINT_MODE", SAVE_FACTORY_DATA) {}
+CDlgPrintMode::CDlgPrintMode() : CDlgEditor(IDD_PRINT_MODE, L"DLG_PRINT_MODE", SaveKind::FactoryData) {}
 
 void CDlgPrintMode::DoDataExchange(CDataExchange* pDX)
 {
@@ -107,63 +93,60 @@ void CDlgPrintMode::StoreEdits()
     m_pageCommon.StoreToMode();
 }
 
+// As required, the configuration dialog runs under the resources that the editor's own run has made current, and needs
+// no modal runner.
 void CDlgPrintMode::OnAddConfig()
 {
-    IHostData* pData = GetHostContext().pData;
     CDlgPrintModeAddCfg dialog;
-    if (!pData || dialog.DoModal() != IDOK)
+    if (dialog.DoModal() != IDOK)
         return;
-    const CNewConfig config(*pData);
+    const CNewConfig config;
     if (config.Get())
     {
-        dialog.WriteTo(*config.Get());
+        WriteConfig(*config.Get(), dialog.GetValues());
         AppendConfig(*config.Get());
     }
 }
 
-// The host keeps a copy of its own.
+// The host keeps a copy of its own. The unread name and the SetRedraw without a partner are as required.
 void CDlgPrintMode::AppendConfig(IPrintConfig& config)
 {
-    IConfigList* pList = ConfigList();
-    if (!pList || !pList->AddConfig(&config))
+    if (!AddConfig(config))
         return;
-    const int nLine = m_lstConfigs.AddString(ConfigText(NarrowReadAsWide(config.GetName()), config));
-    if (nLine < 0)
+    const int row = m_lstConfigs.AddString(ConfigLine(NarrowReadAsWide(config.GetName()), config).c_str());
+    if (row < 0)
         return;
-    m_lstConfigs.SetCurSel(nLine);
+    m_lstConfigs.SetCurSel(row);
     m_lstConfigs.SetRedraw(TRUE);
     FillModeList(false);
 }
 
 void CDlgPrintMode::OnDeleteConfig()
 {
-    const int nLine = m_lstConfigs.GetCurSel();
-    IConfigList* pList = ConfigList();
-    if (!pList || !SelectedConfig())
+    const int row = m_lstConfigs.GetCurSel();
+    if (!SelectedConfig())
         return;
     // The configuration's modes go with it: the pages must not keep one of them.
     if (IsAttachedModeListed())
         AttachMode(nullptr);
-    pList->RemoveAt(static_cast<std::uint32_t>(nLine));
-    RemoveSchemesOfConfig(GetHostContext().pData->GetFactorySchemeList(), nLine);
-    RemoveSchemesOfConfig(GetHostContext().pData->GetUserSchemeList(), nLine);
-    m_lstConfigs.DeleteString(static_cast<UINT>(nLine));
-    m_lstConfigs.SetCurSel(RowAfterDelete(nLine, m_lstConfigs.GetCount()));
+    RemoveConfig(row);
+    m_lstConfigs.DeleteString(static_cast<UINT>(row));
+    m_lstConfigs.SetCurSel(RowAfterDelete(row, m_lstConfigs.GetCount()));
     FillModeList(true);
 }
 
 void CDlgPrintMode::OnEditConfig()
 {
-    IPrintConfig* pConfig = SelectedConfig();
-    if (!pConfig)
+    IPrintConfig* config = SelectedConfig();
+    if (!config)
         return;
+    const ConfigValues oldValues = ReadConfig(*config);
     CDlgPrintModeAddCfg dialog;
     dialog.m_bParamsLocked = TRUE;
-    dialog.ReadFrom(*pConfig);
-    const CString strOldName = dialog.m_strName;
-    if (dialog.DoModal() != IDOK || dialog.m_strName == strOldName)
+    dialog.SetValues(oldValues);
+    if (dialog.DoModal() != IDOK || dialog.GetValues().name == oldValues.name)
         return;
-    SetHostName(*pConfig, dialog.m_strName);
+    SetHostName(*config, dialog.GetValues().name.c_str());
     FillConfigList(m_lstConfigs.GetCurSel());
 }
 
@@ -174,63 +157,62 @@ void CDlgPrintMode::OnConfigSelChange()
 
 void CDlgPrintMode::OnAddMode()
 {
-    IPrintConfig* pConfig = SelectedConfig();
-    IPrintMode* pMode = pConfig ? pConfig->AddMode() : nullptr;
-    if (!pMode)
+    IPrintConfig* config = SelectedConfig();
+    IPrintMode* mode = config ? AddMode(*config) : nullptr;
+    if (!mode)
         return;
-    pMode->SetName(NewModeName(*pConfig).c_str());
-    const int nLine = InsertMode(-1, pMode);
-    if (nLine < 0)
+    const int row = InsertMode(-1, mode);
+    if (row < 0)
     {
-        pConfig->RemoveMode(pConfig->GetModeCount() - 1);
+        RemoveLastMode(*config);
         return;
     }
-    m_lstModes.SetRedraw(TRUE);
-    m_lstModes.SetCurSel(nLine);
+    m_lstModes.SetRedraw(TRUE); // without a partner, as required
+    m_lstModes.SetCurSel(row);
     SelectMode(true);
 }
 
 void CDlgPrintMode::OnDeleteMode()
 {
-    IPrintConfig* pConfig = SelectedConfig();
-    const int nLine = m_lstModes.GetCurSel();
-    IPrintMode* pMode = ModeAt(nLine);
-    if (!pConfig || !pMode)
+    IPrintConfig* config = SelectedConfig();
+    const int row = m_lstModes.GetCurSel();
+    IPrintMode* mode = ModeAt(row);
+    if (!config || !mode)
         return;
-    if (m_pageCommon.GetAttachedMode() == pMode)
+    if (m_pageCommon.GetAttachedMode() == mode)
         AttachMode(nullptr);
-    RemoveModeOf(*pConfig, pMode);
-    m_lstModes.DeleteString(static_cast<UINT>(nLine));
-    m_lstModes.SetCurSel(RowAfterDelete(nLine, m_lstModes.GetCount()));
-    m_lstModes.SetRedraw(TRUE);
+    RemoveMode(*config, mode);
+    m_lstModes.DeleteString(static_cast<UINT>(row));
+    m_lstModes.SetCurSel(RowAfterDelete(row, m_lstModes.GetCount()));
+    m_lstModes.SetRedraw(TRUE); // without a partner, as required
     SelectMode(false);
 }
 
 void CDlgPrintMode::OnMoveModeUp()
 {
-    const int nLine = m_lstModes.GetCurSel();
-    MoveLine(nLine, nLine - 1, nLine - 1);
+    const int row = m_lstModes.GetCurSel();
+    MoveRow(row, row - 1, row - 1);
 }
 
 void CDlgPrintMode::OnMoveModeDown()
 {
-    const int nLine = m_lstModes.GetCurSel();
-    if (nLine >= 0)
-        MoveLine(nLine + 1, nLine, nLine + 1);
+    const int row = m_lstModes.GetCurSel();
+    if (row >= 0)
+        MoveRow(row + 1, row, row + 1);
 }
 
-// Only the lines change places: the host keeps its order of modes.
-void CDlgPrintMode::MoveLine(int nFrom, int nTo, int nSelect)
+// Only the rows change places: the host keeps its order of modes.
+void CDlgPrintMode::MoveRow(int from, int to, int selectedRow)
 {
-    IPrintMode* pMoved = ModeAt(nFrom);
-    if (!pMoved || !ModeAt(nTo))
+    IPrintMode* moved = ModeAt(from);
+    if (!moved || !ModeAt(to))
         return;
     {
         const CRedrawOff redrawOff(m_lstModes);
-        m_lstModes.DeleteString(static_cast<UINT>(nFrom));
-        InsertMode(nTo, pMoved);
+        m_lstModes.DeleteString(static_cast<UINT>(from));
+        InsertMode(to, moved);
     }
-    m_lstModes.SetCurSel(nSelect);
+    m_lstModes.SetCurSel(selectedRow);
     SelectMode(true);
 }
 
@@ -244,88 +226,76 @@ void CDlgPrintMode::OnApply()
     m_pageCommon.StoreToMode();
 }
 
-void CDlgPrintMode::FillConfigList(int nSelect)
+void CDlgPrintMode::FillConfigList(int selectedRow)
 {
     Refill(m_lstConfigs, [this] {
-        IConfigList* pList = ConfigList();
-        const std::uint32_t nCount = HostCount(pList);
-        for (std::uint32_t i = 0; i < nCount; ++i)
-        {
-            IPrintConfig* pConfig = pList->GetAt(i);
-            m_lstConfigs.AddString(pConfig ? ConfigText(HostTextForFormat(pConfig->GetName()), *pConfig) : CString());
-        }
+        ForEachRow(HostData().GetConfigList(), [this](IPrintConfig* config, int) {
+            const std::wstring text =
+                config ? ConfigLine(HostTextForFormat(config->GetName()), *config) : std::wstring();
+            m_lstConfigs.AddString(text.c_str());
+        });
     });
     if (m_lstConfigs.GetCount() == 0)
         return;
-    m_lstConfigs.SetCurSel(nSelect);
+    m_lstConfigs.SetCurSel(selectedRow);
     FillModeList(false);
 }
 
-void CDlgPrintMode::FillModeList(bool bSkipStore)
+void CDlgPrintMode::FillModeList(bool skipStore)
 {
-    Refill(m_lstModes, [this] {
-        IPrintConfig* pConfig = SelectedConfig();
-        const std::uint32_t nCount = pConfig ? SaneCount(pConfig->GetModeCount()) : 0;
-        for (std::uint32_t i = 0; i < nCount; ++i)
-            if (IPrintMode* pMode = pConfig->GetMode(i))
-                InsertMode(-1, pMode);
-    });
+    Refill(m_lstModes, [this] { ForEach(SelectedConfig(), [this](IPrintMode& mode, int) { InsertMode(-1, &mode); }); });
     if (m_lstModes.GetCount() == 0)
         return; // the pages keep their mode, whose edits must not be lost, and the buttons their state
     m_lstModes.SetCurSel(0);
-    SelectMode(!bSkipStore);
+    SelectMode(!skipStore);
 }
 
-void CDlgPrintMode::SelectMode(bool bStoreFirst)
+void CDlgPrintMode::SelectMode(bool storeFirst)
 {
-    if (bStoreFirst)
+    if (storeFirst)
         m_pageCommon.StoreToMode();
     AttachMode(ModeAt(m_lstModes.GetCurSel()));
     UpdateButtons();
 }
 
-void CDlgPrintMode::AttachMode(IPrintMode* pMode)
+void CDlgPrintMode::AttachMode(IPrintMode* mode)
 {
-    m_pageData.AttachMode(pMode);
-    m_pageCommon.AttachMode(pMode);
+    m_pageData.AttachMode(mode);
+    m_pageCommon.AttachMode(mode);
 }
 
 void CDlgPrintMode::UpdateButtons()
 {
-    const bool bMode = m_lstModes.GetCurSel() >= 0;
+    const bool hasMode = m_lstModes.GetCurSel() >= 0;
     EnableControl(m_btnDeleteConfig, m_lstConfigs.GetCurSel() >= 0);
-    EnableControl(m_btnDeleteMode, bMode);
-    EnableControl(m_btnMoveUp, bMode);
-    EnableControl(m_btnMoveDown, bMode);
+    EnableControl(m_btnDeleteMode, hasMode);
+    EnableControl(m_btnMoveUp, hasMode);
+    EnableControl(m_btnMoveDown, hasMode);
 }
 
 IPrintConfig* CDlgPrintMode::SelectedConfig() const
 {
-    const int nLine = m_lstConfigs.GetCurSel();
-    IConfigList* pList = nLine >= 0 ? ConfigList() : nullptr;
-    return pList ? pList->GetAt(static_cast<std::uint32_t>(nLine)) : nullptr;
+    return ConfigAt(m_lstConfigs.GetCurSel());
 }
 
-IPrintMode* CDlgPrintMode::ModeAt(int nLine) const
+IPrintMode* CDlgPrintMode::ModeAt(int row) const
 {
-    if (nLine < 0 || nLine >= m_lstModes.GetCount())
-        return nullptr;
-    return reinterpret_cast<IPrintMode*>(m_lstModes.GetItemData(nLine));
+    return RowObject<IPrintMode>(m_lstModes, row);
 }
 
-int CDlgPrintMode::InsertMode(int nLine, IPrintMode* pMode)
+int CDlgPrintMode::InsertMode(int row, IPrintMode* mode)
 {
-    const int nAdded = m_lstModes.InsertString(nLine, HostText(pMode->GetName()));
-    if (nAdded >= 0)
-        m_lstModes.SetItemData(nAdded, reinterpret_cast<DWORD_PTR>(pMode));
-    return nAdded;
+    const int inserted = m_lstModes.InsertString(row, HostText(mode->GetName()).c_str());
+    if (inserted >= 0)
+        SetRowData(m_lstModes, inserted, mode);
+    return inserted;
 }
 
 bool CDlgPrintMode::IsAttachedModeListed() const
 {
-    const IPrintMode* pAttached = m_pageCommon.GetAttachedMode();
-    for (int i = 0; pAttached && i < m_lstModes.GetCount(); ++i)
-        if (ModeAt(i) == pAttached)
+    const IPrintMode* attached = m_pageCommon.GetAttachedMode();
+    for (int row = 0; attached && row < m_lstModes.GetCount(); ++row)
+        if (ModeAt(row) == attached)
             return true;
     return false;
 }

@@ -35,18 +35,18 @@ protected:
 
 private:
     void AppendConfig(IPrintConfig& config);
-    void FillConfigList(int nSelect);
-    void FillModeList(bool bSkipStore);
-    void SelectMode(bool bStoreFirst);
-    void AttachMode(IPrintMode* pMode);
+    void FillConfigList(int selectedRow);
+    void FillModeList(bool skipStore);
+    void SelectMode(bool storeFirst);
+    void AttachMode(IPrintMode* mode);
     void UpdateButtons();
 
     IPrintConfig* SelectedConfig() const;
-    // The mode of a line, null for none.
-    IPrintMode* ModeAt(int nLine) const;
-    // -1: at the end. Gives the new line.
-    int InsertMode(int nLine, IPrintMode* pMode);
-    void MoveLine(int nFrom, int nTo, int nSelect);
+    // The mode of a row, null for none.
+    IPrintMode* ModeAt(int row) const;
+    // -1: at the end. Gives the new row; negative when the list refuses it.
+    int InsertMode(int row, IPrintMode* mode);
+    void MoveRow(int from, int to, int selectedRow);
     bool IsAttachedModeListed() const;
 
     CMFCButton m_btnAddConfig;

@@ -1,23 +1,18 @@
 #include "dialogs/printmode/DlgPrintModeCmmn.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/PassCounts.h"
-#include "dialogs/base/Rows.h"
-#include "host/IHostData.h"
-#include "host/IInkGroup.h"
-#include "host/IInkGroupTable.h"
-#include "host/IPrintMode.h"
-#include "host/IXResolution.h"
-#include "host/IXResolutionList.h"
+#include "dialogs/base/Controls.h"
+#include "dialogs/data/Configs.h"
+#include "dialogs/data/Ink.h"
+#include "dialogs/data/Machine.h"
+#include "dialogs/data/NumberText.h"
+#include "dialogs/data/PrintModes.h"
 #include "resources/resource.h"
 
 #include <cwchar>
+#include <string>
 
 namespace
 {
-constexpr int MAX_NAME_CHARS = 60;
-
 // Rows of a switch list.
 constexpr int SWITCH_OFF = 0;
 constexpr int SWITCH_ON = 1;
@@ -42,17 +37,17 @@ void CDlgPrintModeCmmn::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_CMB_PASS, m_cmbPass);
     DDX_Control(pDX, IDC_CMB_XDPI, m_cmbXDpi);
     DDX_Control(pDX, IDC_CMB_RESIDENT, m_cmbResident);
-    for (EdgeRow* pRow : {&m_front, &m_back})
+    for (EdgeRow* row : {&m_front, &m_back})
     {
-        DDX_Control(pDX, pRow->nGroupId, pRow->cmbGroup);
-        DDX_Control(pDX, pRow->nSwitchId, pRow->cmbSwitch);
+        DDX_Control(pDX, row->groupId, row->groups);
+        DDX_Control(pDX, row->switchId, row->onOff);
     }
-    for (DotRow* pRow : {&m_small, &m_medium, &m_large})
-        DDX_Control(pDX, pRow->nGroupId, pRow->cmbGroup);
+    for (DotRow* row : {&m_small, &m_medium, &m_large})
+        DDX_Control(pDX, row->groupId, row->groups);
     DDX_Text(pDX, IDC_EDIT_NAME, m_strName);
     DDV_MaxChars(pDX, m_strName, MAX_NAME_CHARS);
-    for (DotRow* pRow : {&m_small, &m_medium, &m_large})
-        DDX_Text(pDX, pRow->nValueId, pRow->fValue);
+    for (DotRow* row : {&m_small, &m_medium, &m_large})
+        DDX_Text(pDX, row->valueId, row->value);
 }
 
 BEGIN_MESSAGE_MAP(CDlgPrintModeCmmn, CDialogEx)
@@ -89,9 +84,9 @@ int CDlgPrintModeCmmn::ApplyLanguage()
     return 1;
 }
 
-void CDlgPrintModeCmmn::AttachMode(IPrintMode* pMode)
+void CDlgPrintModeCmmn::AttachMode(IPrintMode* mode)
 {
-    m_pMode = pMode;
+    m_pMode = mode;
     m_strRefused.Empty(); // with each visit of a mode the operator is told again
     LoadFromMode();
 }
@@ -102,12 +97,12 @@ void CDlgPrintModeCmmn::LoadFromMode()
         return;
     FillXResolutions();
     FillGroups();
-    for (DotRow* pRow : {&m_small, &m_medium, &m_large})
-        ReadDot(*pRow);
-    for (EdgeRow* pRow : {&m_front, &m_back})
-        ShowEdge(*pRow);
+    for (DotRow* row : {&m_small, &m_medium, &m_large})
+        ReadDot(*row);
+    for (EdgeRow* row : {&m_front, &m_back})
+        ShowEdge(*row);
     SelectPassCount(m_pMode->GetPassCount());
-    m_strName = HostText(m_pMode->GetName());
+    m_strName = HostText(m_pMode->GetName()).c_str();
     m_cmbEnable.SetCurSel(m_pMode->GetDisabled() ? SWITCH_OFF : SWITCH_ON);
     m_cmbResident.SetCurSel(m_pMode->GetResident());
     UpdateData(FALSE);
@@ -118,9 +113,7 @@ void CDlgPrintModeCmmn::StoreToMode()
     if (!m_pMode || !m_hWnd)
         return;
     ReadValues();
-    CString strPass;
-    m_cmbPass.GetLBText(m_cmbPass.GetCurSel(), strPass);
-    m_pMode->SetPassCount(static_cast<std::int32_t>(std::wcstol(strPass, nullptr, 10)));
+    m_pMode->SetPassCount(SelectedPassCount());
     m_pMode->SetXResolutionIndex(m_cmbXDpi.GetCurSel());
     if (m_strName.GetLength() <= MAX_NAME_CHARS) // a longer one was refused
         SetHostName(*m_pMode, m_strName);
@@ -128,53 +121,58 @@ void CDlgPrintModeCmmn::StoreToMode()
     m_pMode->SetResident(static_cast<std::uint8_t>(m_cmbResident.GetCurSel()));
 }
 
-void CDlgPrintModeCmmn::FillSwitch(CComboBox& combo, int nSelect)
+void CDlgPrintModeCmmn::FillSwitch(CComboBox& combo, int selectedRow)
 {
     combo.AddString(GetLanguageText(L"DISABLE", L""));
     combo.AddString(GetLanguageText(L"ENABLE", L""));
-    combo.SetCurSel(nSelect);
+    combo.SetCurSel(selectedRow);
 }
 
 void CDlgPrintModeCmmn::FillFixedLists()
 {
     FillSwitch(m_cmbEnable, SWITCH_ON);
-    for (LPCTSTR pszPassCount : PASS_COUNTS)
-        m_cmbPass.AddString(pszPassCount);
+    for (const wchar_t* passCount : PASS_COUNTS)
+        m_cmbPass.AddString(passCount);
     m_cmbPass.SetCurSel(0);
     FillSwitch(m_cmbResident, SWITCH_OFF);
-    FillSwitch(m_front.cmbSwitch, SWITCH_OFF);
-    FillSwitch(m_back.cmbSwitch, SWITCH_OFF);
+    FillSwitch(m_front.onOff, SWITCH_OFF);
+    FillSwitch(m_back.onOff, SWITCH_OFF);
 }
 
 void CDlgPrintModeCmmn::FillXResolutions()
 {
-    FillNames(m_cmbXDpi, GetHostContext().pData->GetXResolutionList());
-    const int nIndex = m_pMode->GetXResolutionIndex();
-    m_cmbXDpi.SetCurSel(nIndex >= 0 && nIndex < m_cmbXDpi.GetCount() ? nIndex : 0);
+    FillNames(m_cmbXDpi, HostData().GetXResolutionList());
+    const int index = m_pMode->GetXResolutionIndex();
+    m_cmbXDpi.SetCurSel(index >= 0 && index < m_cmbXDpi.GetCount() ? index : 0);
 }
 
 void CDlgPrintModeCmmn::FillGroups()
 {
-    for (CComboBox* pCombo :
-         {&m_front.cmbGroup, &m_back.cmbGroup, &m_small.cmbGroup, &m_medium.cmbGroup, &m_large.cmbGroup})
+    for (CComboBox* combo : {&m_front.groups, &m_back.groups, &m_small.groups, &m_medium.groups, &m_large.groups})
     {
-        FillNames(*pCombo, GetHostContext().pData->GetInkGroups());
-        pCombo->SetCurSel(0);
+        FillNames(*combo, HostData().GetInkGroups());
+        combo->SetCurSel(0);
     }
 }
 
-void CDlgPrintModeCmmn::SelectPassCount(int nPassCount)
+// A count that is no row's is shown by the first row that begins with it.
+void CDlgPrintModeCmmn::SelectPassCount(int passCount)
 {
-    CString strPass;
-    strPass.Format(L"%d", nPassCount);
-    if (m_cmbPass.SelectString(-1, strPass) == CB_ERR)
+    if (m_cmbPass.SelectString(-1, NumberText(passCount).c_str()) == CB_ERR)
         m_cmbPass.SetCurSel(0);
+}
+
+int CDlgPrintModeCmmn::SelectedPassCount() const
+{
+    CString text;
+    m_cmbPass.GetLBText(m_cmbPass.GetCurSel(), text);
+    return static_cast<int>(std::wcstol(text, nullptr, 10));
 }
 
 void CDlgPrintModeCmmn::ReadDot(DotRow& row)
 {
-    const int nGroup = row.cmbGroup.GetCurSel();
-    row.fValue = nGroup >= 0 ? (m_pMode->*row.pfnGet)(static_cast<std::uint32_t>(nGroup)) : 0;
+    const int group = row.groups.GetCurSel();
+    row.value = group >= 0 ? (m_pMode->*row.get)(static_cast<std::uint32_t>(group)) : 0;
 }
 
 void CDlgPrintModeCmmn::ShowDot(DotRow& row)
@@ -191,25 +189,25 @@ void CDlgPrintModeCmmn::WriteDot(DotRow& row)
         return;
     if (!UpdateData(TRUE))
         m_strRefused = EditTexts();
-    const int nGroup = row.cmbGroup.GetCurSel();
-    if (nGroup >= 0)
-        (m_pMode->*row.pfnSet)(row.fValue, static_cast<std::uint32_t>(nGroup));
+    const int group = row.groups.GetCurSel();
+    if (group >= 0)
+        (m_pMode->*row.set)(row.value, static_cast<std::uint32_t>(group));
 }
 
 void CDlgPrintModeCmmn::ShowEdge(EdgeRow& row)
 {
-    const int nGroup = row.cmbGroup.GetCurSel();
+    const int group = row.groups.GetCurSel();
     if (!m_pMode)
         return;
-    const bool bOn = nGroup >= 0 && (m_pMode->*row.pfnGet)(static_cast<std::uint32_t>(nGroup)) != 0;
-    row.cmbSwitch.SetCurSel(bOn ? SWITCH_ON : SWITCH_OFF);
+    const bool on = group >= 0 && (m_pMode->*row.get)(static_cast<std::uint32_t>(group)) != 0;
+    row.onOff.SetCurSel(on ? SWITCH_ON : SWITCH_OFF);
 }
 
 void CDlgPrintModeCmmn::WriteEdge(EdgeRow& row)
 {
-    const int nGroup = row.cmbGroup.GetCurSel();
-    if (m_pMode && nGroup >= 0)
-        (m_pMode->*row.pfnSet)(row.cmbSwitch.GetCurSel() == SWITCH_ON, static_cast<std::uint32_t>(nGroup));
+    const int group = row.groups.GetCurSel();
+    if (m_pMode && group >= 0)
+        (m_pMode->*row.set)(row.onOff.GetCurSel() == SWITCH_ON, static_cast<std::uint32_t>(group));
 }
 
 // The operator hears of a refused text once: the field that lost the focus has said it already when the same texts
@@ -224,13 +222,13 @@ void CDlgPrintModeCmmn::ReadValues()
 
 CString CDlgPrintModeCmmn::EditTexts() const
 {
-    CString strAll;
-    for (int nId : {IDC_EDIT_NAME, IDC_EDIT_SMALL, IDC_EDIT_MEDIUM, IDC_EDIT_LARGE})
+    CString all;
+    for (int id : {IDC_EDIT_NAME, IDC_EDIT_SMALL, IDC_EDIT_MEDIUM, IDC_EDIT_LARGE})
     {
-        CString strText;
-        GetDlgItem(nId)->GetWindowText(strText);
-        strAll += strText;
-        strAll += L"\n";
+        CString text;
+        GetDlgItem(id)->GetWindowText(text);
+        all += text;
+        all += L"\n";
     }
-    return strAll;
+    return all;
 }

@@ -4,7 +4,6 @@
 
 #include <afxdialogex.h>
 
-#include <array>
 #include <cstdint>
 
 class IPrintMode;
@@ -18,7 +17,7 @@ public:
     CDlgPrintModeCmmn();
 
     // The mode stays the host's; null leaves the controls as they are.
-    void AttachMode(IPrintMode* pMode);
+    void AttachMode(IPrintMode* mode);
     IPrintMode* GetAttachedMode() const { return m_pMode; }
     void LoadFromMode();
     void StoreToMode();
@@ -48,30 +47,31 @@ private:
     // The compensation of one dot size: an ink group and the value of that group.
     struct DotRow
     {
-        int nGroupId;
-        int nValueId;
-        float (IPrintMode::*pfnGet)(std::uint32_t group);
-        void (IPrintMode::*pfnSet)(float value, std::uint32_t group);
-        CComboBox cmbGroup{};
-        float fValue = 0;
+        int groupId;
+        int valueId;
+        float (IPrintMode::*get)(std::uint32_t group);
+        void (IPrintMode::*set)(float value, std::uint32_t group);
+        CComboBox groups{};
+        float value = 0;
     };
 
     // The compensation of one edge: an ink group and the switch of that group.
     struct EdgeRow
     {
-        int nGroupId;
-        int nSwitchId;
-        std::uint8_t (IPrintMode::*pfnGet)(std::uint32_t group);
-        void (IPrintMode::*pfnSet)(std::int32_t on, std::uint32_t group);
-        CComboBox cmbGroup{};
-        CComboBox cmbSwitch{};
+        int groupId;
+        int switchId;
+        std::uint8_t (IPrintMode::*get)(std::uint32_t group);
+        void (IPrintMode::*set)(std::int32_t on, std::uint32_t group);
+        CComboBox groups{};
+        CComboBox onOff{};
     };
 
-    void FillSwitch(CComboBox& combo, int nSelect);
+    void FillSwitch(CComboBox& combo, int selectedRow);
     void FillFixedLists();
     void FillXResolutions();
     void FillGroups();
-    void SelectPassCount(int nPassCount);
+    void SelectPassCount(int passCount);
+    int SelectedPassCount() const;
     void ReadDot(DotRow& row);
     void ShowDot(DotRow& row);
     void WriteDot(DotRow& row);

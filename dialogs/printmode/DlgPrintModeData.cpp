@@ -1,40 +1,21 @@
 #include "dialogs/printmode/DlgPrintModeData.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
-#include "host/IDataMode.h"
-#include "host/IHeadLayout.h"
-#include "host/IHeadLayoutList.h"
-#include "host/IHostData.h"
-#include "host/IPrintMode.h"
+#include "dialogs/data/Machine.h"
+#include "dialogs/data/PrintModes.h"
 #include "resources/resource.h"
 
-#include <algorithm>
 #include <vector>
 
 namespace
 {
-constexpr LPCTSTR NO_DATA_MODE = L"No";
-constexpr std::uint8_t NO_DATA_MODE_VALUE = 255;
+constexpr const wchar_t* NO_DATA_MODE = L"No";
 
-// The first data mode is never offered: "No" stands in its place, and a stored 0 means it too.
-constexpr std::uint8_t FIRST_DATA_MODE_VALUE = 0;
-
-// The value that the host stores for a row's text; negative when no data mode has that name that a byte can name, 255
-// being taken for none.
-int DataModeOf(IHeadLayout& layout, const CString& strText)
+// The value that the host stores for the text of a row; negative when no data mode that can be stored has that name.
+int DataModeOf(IHeadLayout& head, const CString& text)
 {
-    if (strText.CompareNoCase(NO_DATA_MODE) == 0)
+    if (text.CompareNoCase(NO_DATA_MODE) == 0)
         return NO_DATA_MODE_VALUE;
-    const std::uint32_t nCount = std::min<std::uint32_t>(layout.GetDataModeCount(), NO_DATA_MODE_VALUE);
-    for (std::uint32_t i = 0; i < nCount; ++i)
-    {
-        IDataMode* pDataMode = layout.GetDataMode(i);
-        if (pDataMode && HostTextForFormat(pDataMode->GetName()).CompareNoCase(strText) == 0)
-            return static_cast<int>(i);
-    }
-    return -1;
+    return FindDataMode(head, [&](const std::wstring& name) { return text.CompareNoCase(name.c_str()) == 0; });
 }
 } // namespace
 
@@ -66,11 +47,11 @@ int CDlgPrintModeData::ApplyLanguage()
 
 void CDlgPrintModeData::CreateGrid()
 {
-    RECT rc;
-    GetDlgItem(IDC_STATIC_GRID)->GetWindowRect(&rc);
-    ScreenToClient(&rc);
-    m_grid.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER, rc, this, IDC_GRID_DATA_MODE);
-    m_grid.EnableHeaderCtrl(TRUE, L"喷头物理布局", L"数据处理模式");
+    RECT rect;
+    GetDlgItem(IDC_STATIC_GRID)->GetWindowRect(&rect);
+    ScreenToClient(&rect);
+    m_grid.Create(WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_BORDER, rect, this, IDC_GRID_DATA_MODE);
+    m_grid.EnableHeaderCtrl(TRUE, L"喷头物理布局", L"数据处理模式"); // in every language, as required
     m_grid.EnableDescriptionArea(FALSE);
     m_grid.SetVSDotNetLook();
     m_grid.MarkModifiedProperties();
@@ -78,74 +59,68 @@ void CDlgPrintModeData::CreateGrid()
     m_grid.SetCustomColors(0xE1E1E1, 0, 0xC4C4C4, 0, 0xA8A8A8, 0, 0);
 }
 
-void CDlgPrintModeData::AttachMode(IPrintMode* pMode)
+void CDlgPrintModeData::AttachMode(IPrintMode* mode)
 {
-    m_pMode = pMode;
+    m_pMode = mode;
     Rebuild();
 }
 
 void CDlgPrintModeData::Rebuild()
 {
     m_grid.RemoveAll();
-    IHostData* pData = GetHostContext().pData;
-    IHeadLayoutList* pList = pData && m_pMode ? pData->GetHeadLayoutList() : nullptr;
-    const std::uint32_t nCount = HostCount(pList);
-    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> rows;
-    for (std::uint32_t i = 0; i < nCount; ++i)
+    if (!m_pMode)
+        return;
+    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> properties;
+    ForEach(HostData().GetHeadLayoutList(), [&](IHeadLayout& head, int row) {
+        if (head.GetDataModeCount() != 0)
+            properties.push_back(MakeProperty(head, row)); // the mode stores by the head's place in the whole list
+    });
+    for (auto& property : properties)
     {
-        IHeadLayout* pLayout = pList->GetAt(i);
-        if (pLayout && pLayout->GetDataModeCount() != 0)
-            rows.push_back(MakeRow(*pLayout, i)); // without a row it counts too: the mode stores by its position
-    }
-    for (auto& pRow : rows)
-    {
-        const BOOL bLast = &pRow == &rows.back(); // the grid is laid out and drawn once, however many rows it gets
-        m_grid.AddProperty(pRow.release(), bLast, bLast);
+        const BOOL isLast = &property == &properties.back(); // the grid is laid out and drawn once
+        m_grid.AddProperty(property.release(), isLast, isLast);
     }
 }
 
-std::unique_ptr<CMFCPropertyGridProperty> CDlgPrintModeData::MakeRow(IHeadLayout& layout, std::uint32_t nRow)
+std::unique_ptr<CMFCPropertyGridProperty> CDlgPrintModeData::MakeProperty(IHeadLayout& head, int row)
 {
-    auto pProperty =
-        std::make_unique<CMFCPropertyGridProperty>(HostText(layout.GetName()), L"", nullptr, layout.GetId());
-    pProperty->AllowEdit(FALSE);
-    SetOptions(*pProperty, layout, nRow);
-    return pProperty;
+    const std::wstring name = HostText(head.GetName());
+    auto property = std::make_unique<CMFCPropertyGridProperty>(name.c_str(), L"", nullptr, head.GetId());
+    property->AllowEdit(FALSE);
+    SetOptions(*property, head, static_cast<std::uint32_t>(row));
+    return property;
 }
 
-void CDlgPrintModeData::SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& layout, std::uint32_t nRow)
+void CDlgPrintModeData::SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& head, std::uint32_t row)
 {
-    const std::uint8_t nStored = m_pMode->GetHeadDataMode(nRow);
+    const std::uint8_t stored = m_pMode->GetHeadDataMode(row);
     property.AddOption(NO_DATA_MODE);
     property.SetValue(NO_DATA_MODE);
-    if (nStored == FIRST_DATA_MODE_VALUE)
-        m_pMode->SetHeadDataMode(NO_DATA_MODE_VALUE, nRow);
-    const std::uint32_t nCount = SaneCount(layout.GetDataModeCount());
-    for (std::uint32_t k = 1; k < nCount; ++k)
-    {
-        IDataMode* pDataMode = layout.GetDataMode(k);
-        if (!pDataMode)
-            continue;
-        const CString strName = HostTextForFormat(pDataMode->GetName());
-        property.AddOption(strName);
-        if (k == nStored && nStored != NO_DATA_MODE_VALUE)
-            property.SetValue(strName);
-    }
+    if (stored == FIRST_DATA_MODE_VALUE)
+        m_pMode->SetHeadDataMode(NO_DATA_MODE_VALUE, row);
+    ForEach(&head, [&](IDataMode& mode, int index) {
+        if (index == FIRST_DATA_MODE_VALUE)
+            return;
+        const std::wstring name = HostTextForFormat(mode.GetName());
+        property.AddOption(name.c_str());
+        if (index == stored && stored != NO_DATA_MODE_VALUE)
+            property.SetValue(name.c_str());
+    });
 }
 
 LRESULT CDlgPrintModeData::OnPropertyChanged(WPARAM, LPARAM lParam)
 {
-    const auto* pProperty = reinterpret_cast<CMFCPropertyGridProperty*>(lParam);
-    const auto nId = static_cast<std::uint16_t>(pProperty->GetData());
-    IHeadLayoutList* pList = GetHostContext().pData->GetHeadLayoutList();
-    if (!pList)
+    const auto* property = reinterpret_cast<CMFCPropertyGridProperty*>(lParam);
+    const auto id = static_cast<std::uint16_t>(property->GetData());
+    IHeadLayoutList* list = HostData().GetHeadLayoutList();
+    if (!list)
         return 0;
-    const std::int32_t nRow = pList->IndexOfId(nId);
-    IHeadLayout* pLayout = pList->FindById(nId);
-    if (!pLayout || nRow < 0)
+    const std::int32_t row = list->IndexOfId(id);
+    IHeadLayout* head = list->FindById(id);
+    if (!head || row < 0)
         return 0;
-    const int nValue = DataModeOf(*pLayout, pProperty->GetValue());
-    if (nValue >= 0)
-        m_pMode->SetHeadDataMode(static_cast<std::uint8_t>(nValue), static_cast<std::uint32_t>(nRow));
+    const int value = DataModeOf(*head, property->GetValue());
+    if (value >= 0)
+        m_pMode->SetHeadDataMode(static_cast<std::uint8_t>(value), static_cast<std::uint32_t>(row));
     return 0;
 }

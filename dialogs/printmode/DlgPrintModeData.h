@@ -19,7 +19,7 @@ public:
     CDlgPrintModeData();
 
     // The mode stays the host's; null empties the grid.
-    void AttachMode(IPrintMode* pMode);
+    void AttachMode(IPrintMode* mode);
     void Rebuild();
 
     int ApplyLanguage() override;
@@ -32,8 +32,8 @@ protected:
 
 private:
     void CreateGrid();
-    std::unique_ptr<CMFCPropertyGridProperty> MakeRow(IHeadLayout& layout, std::uint32_t nRow);
-    void SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& layout, std::uint32_t nRow);
+    std::unique_ptr<CMFCPropertyGridProperty> MakeProperty(IHeadLayout& head, int row);
+    void SetOptions(CMFCPropertyGridProperty& property, IHeadLayout& head, std::uint32_t row);
 
     IPrintMode* m_pMode = nullptr;
     CMFCPropertyGridCtrl m_grid;

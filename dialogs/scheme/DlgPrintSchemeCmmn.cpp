@@ -1,34 +1,60 @@
 #include "dialogs/scheme/DlgPrintSchemeCmmn.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/Rows.h"
-#include "host/IActiveSetup.h"
-#include "host/IChannelList.h"
-#include "host/IChannelSetup.h"
-#include "host/IHeadLayout.h"
-#include "host/IHeadLayoutList.h"
-#include "host/IHostData.h"
-#include "host/ILayout.h"
-#include "host/ILayoutList.h"
-#include "host/IMaterial.h"
-#include "host/IMaterialList.h"
-#include "host/IPrintScheme.h"
-#include "host/IUserScheme.h"
+#include "dialogs/data/Configs.h"
+#include "dialogs/data/Machine.h"
+#include "dialogs/data/NumberText.h"
 #include "resources/resource.h"
 
 #include <algorithm>
+#include <string>
 
 namespace
 {
-constexpr int MAX_NAME_CHARS = 60;
+// The first row leaves the choice open; of values without a row, a negative one shows it too.
+const RowView BY_SPEED = {
+    [](CComboBox& list, int speed) { list.SetCurSel(std::max(speed, -1) + 1); },
+    BY_DATA.read,
+};
 
-// A count beyond is junk: a scheme's waveform is read as a signed byte.
-constexpr int MAX_WAVES = 1024;
+const RowView BY_DIRECTION = {
+    [](CComboBox& list, int direction) { list.SetCurSel(std::max(direction, 0)); },
+    BY_DATA.read,
+};
+
+// Rows that the page selects while it fills the list. As required, these two are stored by position.
+const RowView BY_CHANNEL = {nullptr, BY_POSITION.read};
+
+const RowView BY_WAVE = {
+    nullptr,
+    [](const CComboBox& list) -> std::optional<int> { return list.GetCurSel() - 1; },
+};
+
+ILayout* SelectedLayout(const CComboBox& list)
+{
+    return RowObject<ILayout>(list, list.GetCurSel());
+}
+
+const RowView BY_LAYOUT = {
+    nullptr,
+    [](const CComboBox& list) -> std::optional<int> {
+        ILayout* layout = SelectedLayout(list);
+        return layout ? std::optional<int>(static_cast<int>(layout->GetId())) : std::nullopt;
+    },
+};
 } // namespace
 
-CDlgPrintSchemeCmmn::CDlgPrintSchemeCmmn() : CSchemePage(IDD_SCHEME_CMMN) {}
+CDlgPrintSchemeCmmn::CDlgPrintSchemeCmmn() : CSchemePage(IDD_SCHEME_CMMN)
+{
+    BindList(SchemeField::Speed, m_cmbSpeed, BY_SPEED);
+    BindList(SchemeField::Direction, m_cmbDirection, BY_DIRECTION);
+    BindList(SchemeField::Material, m_cmbMaterial, BY_DATA);
+    BindList(SchemeField::Enabled, m_cmbEnable, BY_POSITION);
+    BindList(SchemeField::WaitStepStop, m_cmbWaitStep, BY_POSITION);
+    BindList(SchemeField::Wave, m_cmbWave, BY_WAVE);
+    BindList(SchemeField::Channel, m_cmbChannel, BY_CHANNEL);
+    BindList(SchemeField::LayoutId, m_cmbLayout, BY_LAYOUT);
+    BindList(SchemeField::HeadId, m_cmbHead, BY_DATA);
+}
 
 void CDlgPrintSchemeCmmn::DoDataExchange(CDataExchange* pDX)
 {
@@ -49,16 +75,6 @@ void CDlgPrintSchemeCmmn::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeCmmn, CSchemePage)
     ON_CBN_SELCHANGE(IDC_CMB_LAYOUT, &CDlgPrintSchemeCmmn::OnLayoutChange)
 END_MESSAGE_MAP()
-
-BOOL CDlgPrintSchemeCmmn::OnInitDialog()
-{
-    if (!CSchemePage::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
-    FillFixedLists();
-    LoadFromScheme();
-    return TRUE;
-}
 
 int CDlgPrintSchemeCmmn::ApplyLanguage()
 {
@@ -89,7 +105,10 @@ void CDlgPrintSchemeCmmn::LoadFromScheme()
 {
     if (m_nSchemeId < 0)
         return;
-    LoadRecord();
+    WithScheme([this](auto& scheme) {
+        m_strName = HostText(scheme.GetName()).c_str();
+        LoadFields(scheme);
+    });
     FillMaterials();
     FillWaves();
     FillChannels();
@@ -98,22 +117,6 @@ void CDlgPrintSchemeCmmn::LoadFromScheme()
     UpdateData(FALSE);
 }
 
-void CDlgPrintSchemeCmmn::LoadRecord()
-{
-    const bool bFound = WithScheme([this](auto& scheme) {
-        m_strName = HostText(scheme.GetName());
-        m_cmbSpeed.SetCurSel(std::max<int>(scheme.GetSpeed(), -1) + 1);
-        m_cmbDirection.SetCurSel(std::max<int>(scheme.GetDirection(), 0));
-    });
-    IPrintScheme* pFactory = bFound ? FactoryScheme() : nullptr;
-    if (!pFactory)
-        return;
-    if (!IsUserScheme())
-        m_cmbEnable.SetCurSel(pFactory->GetEnabled());
-    m_cmbWaitStep.SetCurSel(pFactory->GetWaitStepStop());
-}
-
-// Load and save differ on purpose: waveform, channel, enabled and wait-step are stored by row, the rest by item data.
 void CDlgPrintSchemeCmmn::SaveToScheme()
 {
     if (!IsEditable())
@@ -122,37 +125,20 @@ void CDlgPrintSchemeCmmn::SaveToScheme()
     WithScheme([this](auto& scheme) {
         if (m_strName.GetLength() <= MAX_NAME_CHARS) // a longer one was refused
             SetHostName(scheme, m_strName);
-        scheme.SetSpeed(static_cast<std::uint8_t>(SelectedData(m_cmbSpeed)));
-        scheme.SetDirection(static_cast<std::uint8_t>(SelectedData(m_cmbDirection)));
-        scheme.SetMaterial(static_cast<std::uint8_t>(SelectedData(m_cmbMaterial)));
-        if constexpr (std::is_same_v<decltype(scheme), IPrintScheme&>)
-            SaveFactoryValues(scheme);
-        else
-            scheme.SetChannel(static_cast<std::uint8_t>(m_cmbChannel.GetCurSel()));
+        SaveFields(scheme);
     });
-}
-
-void CDlgPrintSchemeCmmn::SaveFactoryValues(IPrintScheme& scheme) const
-{
-    scheme.SetEnabled(static_cast<std::uint8_t>(m_cmbEnable.GetCurSel()));
-    scheme.SetWaitStepStop(static_cast<std::uint8_t>(m_cmbWaitStep.GetCurSel()));
-    scheme.SetWave(m_cmbWave.GetCurSel() - 1);
-    scheme.SetChannel(static_cast<std::uint8_t>(m_cmbChannel.GetCurSel()));
-    if (ILayout* pLayout = SelectedLayout())
-        scheme.SetLayoutId(pLayout->GetId());
-    scheme.SetHeadId(static_cast<std::uint8_t>(SelectedData(m_cmbHead)));
 }
 
 void CDlgPrintSchemeCmmn::OnLayoutChange()
 {
     FillHeads();
-    ILayout* pLayout = SelectedLayout();
-    IPrintScheme* pScheme = IsUserScheme() || !IsEditable() ? nullptr : FactorySchemeAt(m_nSchemeId);
-    if (pLayout && pScheme)
-        pScheme->SetLayoutId(pLayout->GetId());
+    ILayout* layout = SelectedLayout(m_cmbLayout);
+    IPrintScheme* scheme = IsEditable() ? FactorySchemeAt(m_nSchemeId) : nullptr;
+    if (layout && scheme)
+        SetField(*scheme, SchemeField::LayoutId, static_cast<int>(layout->GetId()));
 }
 
-void CDlgPrintSchemeCmmn::FillFixedLists()
+void CDlgPrintSchemeCmmn::InitControls()
 {
     AddRow(m_cmbSpeed, GetLanguageText(L"UNLIMIT", L""), -1);
     AddRow(m_cmbSpeed, GetLanguageText(L"SPEED_S", L""), 0);
@@ -172,107 +158,80 @@ void CDlgPrintSchemeCmmn::FillFixedLists()
 
 void CDlgPrintSchemeCmmn::FillMaterials()
 {
-    const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetMaterial(); }, 0);
-    int nSelect = 0;
+    const int current = ValueOf(SchemeField::Material, 0);
+    int selected = 0;
     Refill(m_cmbMaterial, [&] {
         AddRow(m_cmbMaterial, GetLanguageText(L"UNLIMIT", L""), -1);
-        IMaterialList* pList = GetHostContext().pData->GetMaterialList();
-        const std::uint32_t nCount = ActiveSetup() ? HostCount(pList) : 0;
-        for (std::uint32_t i = 0; i < nCount; ++i)
-        {
-            IMaterial* pMaterial = pList->GetAt(i);
-            if (!pMaterial)
-                continue;
-            const int nRow = AddRow(m_cmbMaterial, HostText(pMaterial->GetName()), pMaterial->GetId());
-            if (pMaterial->GetId() == nCurrent)
-                nSelect = nRow;
-        }
+        ForEachMaterial([&](IMaterial& material, int) {
+            const int id = material.GetId();
+            const int row = AddRow(m_cmbMaterial, HostText(material.GetName()).c_str(), id);
+            if (id == current)
+                selected = row;
+        });
     });
-    m_cmbMaterial.SetCurSel(nSelect);
+    m_cmbMaterial.SetCurSel(selected);
 }
 
 void CDlgPrintSchemeCmmn::FillWaves()
 {
-    IPrintScheme* pScheme = FactoryScheme();
-    const int nCurrent = pScheme ? pScheme->GetWave() : -1;
-    const int nCount = std::min(ParamValue(TABLE_WAVEFORM_COUNT, 0), MAX_WAVES);
-    RefillUnlessFull(m_cmbWave, std::max(nCount, 0) + 1, [&] {
+    IPrintScheme* factory = FactorySchemeOf(m_nSchemeId);
+    const int current = factory ? GetField(*factory, SchemeField::Wave) : -1;
+    const int count = WaveformCount();
+    RefillUnlessFull(m_cmbWave, count + 1, [&] {
         AddRow(m_cmbWave, GetLanguageText(L"UNLIMIT", L""), -1);
-        const CString strWave = nCount > 0 ? GetLanguageText(L"WAVE", L"波形") : CString();
-        for (int i = 0; i < nCount; ++i)
-        {
-            CString strRow;
-            strRow.Format(L"%s%d", strWave.GetString(), i);
-            m_cmbWave.AddString(strRow);
-        }
+        const CString word = count > 0 ? GetLanguageText(L"WAVE", L"波形") : CString();
+        for (int i = 0; i < count; ++i)
+            m_cmbWave.AddString((word.GetString() + NumberText(i)).c_str());
     });
-    m_cmbWave.SetCurSel(nCurrent >= 0 && nCurrent < nCount ? nCurrent + 1 : 0);
+    m_cmbWave.SetCurSel(current >= 0 && current < count ? current + 1 : 0);
 }
 
 void CDlgPrintSchemeCmmn::FillChannels()
 {
-    const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetChannel(); }, 0);
-    int nSelect = -1;
+    const int current = ValueOf(SchemeField::Channel, 0);
+    int selected = -1;
     Refill(m_cmbChannel, [&] {
-        IChannelList* pList = GetHostContext().pData->GetChannelList();
-        IActiveSetup* pActive = ActiveSetup();
-        const int nCount = pActive ? static_cast<int>(HostCount(pList)) : 0;
-        for (int i = 0; i < nCount; ++i)
-        {
-            IChannelSetup* pSetup = pList->GetAt(static_cast<std::uint32_t>(i));
-            if (!pSetup || pSetup->FindSetup(pActive->GetId()) < 0)
-                continue;
-            AddRow(m_cmbChannel, TranslatedName(pSetup->GetName()), i);
-            if (i == nCurrent)
-                nSelect = i; // the stored index is used as the row, whatever was left out before it
-        }
+        ForEachFittingSetup([&](IChannelSetup& setup, int index) {
+            AddRow(m_cmbChannel, TranslatedName(setup.GetName()), index);
+            if (index == current)
+                selected = index; // the stored index is used as the row, whatever was left out before it
+        });
     });
-    m_cmbChannel.SetCurSel(nSelect);
+    m_cmbChannel.SetCurSel(selected);
 }
 
 void CDlgPrintSchemeCmmn::FillLayouts()
 {
-    IPrintScheme* pScheme = FactoryScheme();
-    int nSelect = 0;
+    IPrintScheme* factory = FactorySchemeOf(m_nSchemeId);
+    const int current = factory ? GetField(*factory, SchemeField::LayoutId) : -1;
+    int selected = 0;
     Refill(m_cmbLayout, [&] {
-        ILayoutList* pList = pScheme ? GetHostContext().pData->GetLayoutList() : nullptr;
-        const int nCount = static_cast<int>(HostCount(pList));
-        for (int i = 0; i < nCount; ++i)
-        {
-            ILayout* pLayout = pList->GetAt(static_cast<std::uint32_t>(i));
-            const int nRow = m_cmbLayout.AddString(pLayout ? HostText(pLayout->GetName()).GetString() : L"");
-            if (nRow >= 0)
-                m_cmbLayout.SetItemData(nRow, reinterpret_cast<DWORD_PTR>(pLayout));
-            if (pLayout && pLayout->GetId() == pScheme->GetLayoutId())
-                nSelect = i;
-        }
+        if (!factory)
+            return;
+        ForEachRow(HostData().GetLayoutList(), [&](ILayout* layout, int index) {
+            AddRow(m_cmbLayout, layout ? HostText(layout->GetName()).c_str() : L"", layout);
+            if (layout && layout->GetId() == static_cast<std::uint32_t>(current))
+                selected = index;
+        });
     });
-    m_cmbLayout.SetCurSel(nSelect);
+    m_cmbLayout.SetCurSel(selected);
 }
 
 void CDlgPrintSchemeCmmn::FillHeads()
 {
-    IPrintScheme* pScheme = FactoryScheme();
-    ILayout* pLayout = SelectedLayout();
-    int nSelect = 0;
+    IPrintScheme* factory = FactorySchemeOf(m_nSchemeId);
+    ILayout* layout = SelectedLayout(m_cmbLayout);
+    int selected = 0;
     Refill(m_cmbHead, [&] {
-        IHeadLayoutList* pList = pScheme && pLayout ? GetHostContext().pData->GetHeadLayoutList() : nullptr;
-        const std::uint32_t nCount = HostCount(pList);
-        for (std::uint32_t i = 0; i < nCount; ++i)
-        {
-            IHeadLayout* pHead = pList->GetAt(i);
-            if (!pHead || pHead->GetLayoutId() != pLayout->GetId())
-                continue;
-            const int nRow = AddRow(m_cmbHead, HostText(pHead->GetName()), pHead->GetId());
-            if (pHead->GetId() == pScheme->GetHeadId())
-                nSelect = nRow;
-        }
+        if (!factory || !layout)
+            return;
+        const int current = GetField(*factory, SchemeField::HeadId);
+        ForEachHeadOf(*layout, [&](IHeadLayout& head) {
+            const int id = head.GetId();
+            const int row = AddRow(m_cmbHead, HostText(head.GetName()).c_str(), id);
+            if (id == current)
+                selected = row;
+        });
     });
-    m_cmbHead.SetCurSel(nSelect);
-}
-
-ILayout* CDlgPrintSchemeCmmn::SelectedLayout() const
-{
-    const int nRow = m_cmbLayout.GetCurSel();
-    return nRow >= 0 ? reinterpret_cast<ILayout*>(m_cmbLayout.GetItemData(nRow)) : nullptr;
+    m_cmbHead.SetCurSel(selected);
 }

@@ -2,8 +2,6 @@
 
 #include "dialogs/scheme/SchemePage.h"
 
-class ILayout;
-
 // General settings of a scheme. A user scheme's own record holds name, speed, direction, material and channel; the
 // rest is shown from its base scheme and read-only.
 class CDlgPrintSchemeCmmn : public CSchemePage
@@ -18,21 +16,17 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override;
     void OnLayoutChange();
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    void FillFixedLists();
-    void LoadRecord();
     void FillMaterials();
     void FillWaves();
     void FillChannels();
     void FillLayouts();
     void FillHeads();
-    void SaveFactoryValues(IPrintScheme& scheme) const;
-    ILayout* SelectedLayout() const;
 
     CString m_strName;
     CComboBox m_cmbSpeed;

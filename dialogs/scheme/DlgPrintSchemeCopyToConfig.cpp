@@ -1,6 +1,6 @@
 #include "dialogs/scheme/DlgPrintSchemeCopyToConfig.h"
 
-#include "dialogs/scheme/ConfigNames.h"
+#include "dialogs/base/Controls.h"
 #include "resources/resource.h"
 
 #include <algorithm>
@@ -37,9 +37,8 @@ int CDlgPrintSchemeCopyToConfig::ApplyLanguage()
 void CDlgPrintSchemeCopyToConfig::OnOK()
 {
     UpdateData(TRUE);
-    std::vector<int> rows(static_cast<size_t>(std::max(m_lstConfigs.GetSelCount(), 0)));
-    const int nRead = m_lstConfigs.GetSelItems(static_cast<int>(rows.size()), rows.data());
-    rows.resize(static_cast<size_t>(std::max(nRead, 0)));
-    m_vecChosen.assign(rows.begin(), rows.end());
+    m_vecChosen.resize(static_cast<size_t>(std::max(m_lstConfigs.GetSelCount(), 0)));
+    const int readCount = m_lstConfigs.GetSelItems(static_cast<int>(m_vecChosen.size()), m_vecChosen.data());
+    m_vecChosen.resize(static_cast<size_t>(std::max(readCount, 0)));
     CDialogEx::OnOK();
 }

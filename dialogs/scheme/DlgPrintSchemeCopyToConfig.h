@@ -4,7 +4,6 @@
 
 #include <afxdialogex.h>
 
-#include <cstdint>
 #include <vector>
 
 // Lets the operator choose the configurations that a scheme is copied to.
@@ -13,8 +12,8 @@ class CDlgPrintSchemeCopyToConfig : public CDialogEx, public CDlgBase
 public:
     CDlgPrintSchemeCopyToConfig();
 
-    // In ascending order; to be read after an OK.
-    const std::vector<std::uint32_t>& GetChosen() const { return m_vecChosen; }
+    // Indices of configurations, in ascending order; to be read after an OK.
+    const std::vector<int>& GetChosen() const { return m_vecChosen; }
 
     int ApplyLanguage() override;
 
@@ -25,5 +24,5 @@ protected:
 
 private:
     CListBox m_lstConfigs;
-    std::vector<std::uint32_t> m_vecChosen;
+    std::vector<int> m_vecChosen;
 };

@@ -1,50 +1,30 @@
 #include "dialogs/scheme/DlgPrintSchemeCustomEclosion.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/scheme/EclosionPreview.h"
-#include "host/ICustomEclosion.h"
-#include "host/ICustomEclosionSet.h"
-#include "host/IEclosionElement.h"
-#include "host/IEclosionMode.h"
-#include "host/IHostControl.h"
-#include "host/IHostData.h"
+#include "dialogs/base/Controls.h"
+#include "dialogs/data/CustomEclosion.h"
+#include "dialogs/data/EclosionLevel.h"
+#include "dialogs/data/HostRun.h"
 #include "resources/resource.h"
-
-#include <algorithm>
 
 namespace
 {
-constexpr int MAX_RANGE = 200;
 constexpr int RANGE_PAGE = 10;
-constexpr std::uint32_t MIN_ECLOSIONS = 4;
-constexpr std::uint32_t MAX_MODES = 3;
-constexpr std::uint32_t MAX_ELEMENTS = 2;
-constexpr int DEFAULT_MODES = 2;
 constexpr int RADIOS[] = {IDC_RADIO_MODE1, IDC_RADIO_MODE2, IDC_RADIO_MODE3};
 
 constexpr COLORREF PREVIEW_ELEMENT = RGB(0, 0, 0);
 constexpr COLORREF PREVIEW_EMPTY = RGB(0xF0, 0xF0, 0xF0);
 
-void AddDefaultElement(IEclosionMode& mode)
-{
-    if (IEclosionElement* pElement = mode.AddElement())
-    {
-        pElement->SetWidth(MIN_ELEMENT_SIZE);
-        pElement->SetHeight(MIN_ELEMENT_SIZE);
-    }
-}
-
 // The end of a drag, Home and End move the thumb but are not taken over.
-bool IsMove(UINT nSBCode)
+bool IsMove(UINT scrollCode)
 {
-    return nSBCode <= TB_PAGEDOWN || nSBCode == TB_THUMBTRACK;
+    return scrollCode <= TB_PAGEDOWN || scrollCode == TB_THUMBTRACK;
 }
 
 // True for as long as it lives.
 class CRaisedFlag
 {
 public:
-    explicit CRaisedFlag(bool& bFlag) : m_bFlag(bFlag) { m_bFlag = true; }
+    explicit CRaisedFlag(bool& flag) : m_bFlag(flag) { m_bFlag = true; }
     ~CRaisedFlag() { m_bFlag = false; }
     CRaisedFlag(const CRaisedFlag&) = delete;
     CRaisedFlag& operator=(const CRaisedFlag&) = delete;
@@ -74,12 +54,12 @@ void CDlgPrintSchemeCustomEclosion::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_SLIDER_ECLO_RANGE, m_sliderRange);
     for (ElementView& view : m_elements)
     {
-        DDX_Control(pDX, view.nWidthId, view.sliderWidth);
-        DDX_Control(pDX, view.nHeightId, view.sliderHeight);
+        DDX_Control(pDX, view.widthId, view.sliderWidth);
+        DDX_Control(pDX, view.heightId, view.sliderHeight);
     }
     DDX_Radio(pDX, IDC_RADIO_MODE1, m_nCurMode);
     DDX_Text(pDX, IDC_EDIT_ECLO_RANGE, m_nRange);
-    DDV_MinMaxInt(pDX, m_nRange, 0, MAX_RANGE);
+    DDV_MinMaxInt(pDX, m_nRange, 0, MAX_ECLOSION_RANGE);
 }
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeCustomEclosion, CDialogEx)
@@ -100,8 +80,7 @@ BOOL CDlgPrintSchemeCustomEclosion::OnInitDialog()
         return FALSE;
     InitLanguage(L"DLG_CUSTOM_ECLOSION", this);
     InitTrackbars();
-    if (IHostData* pData = GetHostContext().pData)
-        m_pSet = pData->GetCustomEclosionSet();
+    m_pSet = HostData().GetCustomEclosionSet();
     if (m_pSet)
         Load();
     else
@@ -141,7 +120,7 @@ void CDlgPrintSchemeCustomEclosion::OnOK()
     {
         const CWaitCursor wait;
         const CRaisedFlag saving(m_bSaving);
-        GetHostContext().pControl->SaveCustomEclosionSet();
+        HostControl().SaveCustomEclosionSet();
     }
     CDialogEx::OnOK();
 }
@@ -167,37 +146,37 @@ void CDlgPrintSchemeCustomEclosion::OnHScroll(UINT nSBCode, UINT nPos, CScrollBa
         if (pScrollBar->m_hWnd == m_sliderRange.m_hWnd)
             MoveRange();
         for (ElementView& view : m_elements)
-            for (CSliderCtrl* pSlider : {&view.sliderWidth, &view.sliderHeight})
-                if (pScrollBar->m_hWnd == pSlider->m_hWnd)
-                    MoveElement(view, *pSlider);
+            for (CSliderCtrl* slider : {&view.sliderWidth, &view.sliderHeight})
+                if (pScrollBar->m_hWnd == slider->m_hWnd)
+                    MoveElement(view, *slider);
     }
     CDialogEx::OnHScroll(nSBCode, nPos, pScrollBar);
 }
 
 void CDlgPrintSchemeCustomEclosion::OnAddMode()
 {
-    ICustomEclosion* pEclosion = Eclosion();
-    if (!pEclosion || pEclosion->GetModeCount() == MAX_MODES)
+    ICustomEclosion* eclosion = Eclosion();
+    if (!eclosion || eclosion->GetModeCount() == MAX_ECLOSION_MODES)
         return;
-    IEclosionMode* pMode = pEclosion->AddMode();
-    if (!pMode)
+    IEclosionMode* mode = eclosion->AddMode();
+    if (!mode)
         return;
-    m_nCurMode = static_cast<int>(pEclosion->GetModeCount()) - 1;
-    pEclosion->SetCurrentMode(m_nCurMode);
-    ShowElements(pMode);
-    ShowRadios(pEclosion);
+    m_nCurMode = static_cast<int>(eclosion->GetModeCount()) - 1;
+    eclosion->SetCurrentMode(m_nCurMode);
+    ShowElements(mode);
+    ShowRadios(eclosion);
     EnableEditing();
 }
 
 void CDlgPrintSchemeCustomEclosion::OnDeleteMode()
 {
     UpdateData(TRUE);
-    ICustomEclosion* pEclosion = Eclosion();
-    if (!pEclosion || m_nCurMode < 0 || static_cast<std::uint32_t>(m_nCurMode) >= pEclosion->GetModeCount())
+    ICustomEclosion* eclosion = Eclosion();
+    if (!eclosion || m_nCurMode < 0 || static_cast<std::uint32_t>(m_nCurMode) >= eclosion->GetModeCount())
         return;
-    pEclosion->DeleteMode(static_cast<std::uint32_t>(m_nCurMode));
+    eclosion->DeleteMode(static_cast<std::uint32_t>(m_nCurMode));
     m_nCurMode = 0;
-    pEclosion->SetCurrentMode(m_nCurMode);
+    eclosion->SetCurrentMode(m_nCurMode);
     ShowCurrentMode();
     EnableEditing();
     UpdateData(FALSE);
@@ -206,60 +185,58 @@ void CDlgPrintSchemeCustomEclosion::OnDeleteMode()
 void CDlgPrintSchemeCustomEclosion::OnAddElement()
 {
     UpdateData(TRUE);
-    IEclosionMode* pMode = CurrentMode(Eclosion());
-    if (!pMode || pMode->GetElementCount() == MAX_ELEMENTS)
+    IEclosionMode* mode = At(Eclosion(), m_nCurMode);
+    if (!mode || mode->GetElementCount() == MAX_ECLOSION_ELEMENTS)
         return;
-    pMode->AddElement();
-    ShowElements(pMode);
+    mode->AddElement();
+    ShowElements(mode);
     EnableEditing();
 }
 
 void CDlgPrintSchemeCustomEclosion::OnDeleteElement()
 {
     UpdateData(TRUE);
-    IEclosionMode* pMode = CurrentMode(Eclosion());
-    if (!pMode || pMode->GetElementCount() == 0)
+    IEclosionMode* mode = At(Eclosion(), m_nCurMode);
+    if (!mode || mode->GetElementCount() == 0)
         return;
-    pMode->DeleteElement(0);
-    ShowElements(pMode);
+    mode->DeleteElement(0);
+    ShowElements(mode);
     EnableEditing();
 }
 
 void CDlgPrintSchemeCustomEclosion::OnModeChosen()
 {
     UpdateData(TRUE);
-    if (ICustomEclosion* pEclosion = Eclosion())
+    if (ICustomEclosion* eclosion = Eclosion())
     {
-        pEclosion->SetCurrentMode(m_nCurMode);
-        ShowElements(CurrentMode(pEclosion));
+        eclosion->SetCurrentMode(m_nCurMode);
+        ShowElements(At(eclosion, m_nCurMode));
     }
     EnableEditing();
 }
 
 void CDlgPrintSchemeCustomEclosion::InitTrackbars()
 {
-    m_sliderRange.SetRange(0, MAX_RANGE);
+    m_sliderRange.SetRange(0, MAX_ECLOSION_RANGE);
     m_sliderRange.SetLineSize(1);
     m_sliderRange.SetPageSize(RANGE_PAGE);
     m_sliderRange.SetTicFreq(1);
     for (ElementView& view : m_elements)
-        for (CSliderCtrl* pSlider : {&view.sliderHeight, &view.sliderWidth})
+        for (CSliderCtrl* slider : {&view.sliderHeight, &view.sliderWidth})
         {
-            pSlider->SetRange(MIN_ELEMENT_SIZE, MAX_ELEMENT_SIZE);
-            pSlider->SetLineSize(1);
-            pSlider->SetPageSize(1);
-            pSlider->SetTicFreq(1);
+            slider->SetRange(MIN_ELEMENT_SIZE, MAX_ELEMENT_SIZE);
+            slider->SetLineSize(1);
+            slider->SetPageSize(1);
+            slider->SetTicFreq(1);
         }
 }
 
 void CDlgPrintSchemeCustomEclosion::Load()
 {
-    NormaliseSet();
-    if (m_pSet->GetCurrentIndex() != 0)
-        m_pSet->SetCurrentIndex(0);
-    if (ICustomEclosion* pEclosion = Eclosion())
+    PrepareEclosionSet(*m_pSet);
+    if (ICustomEclosion* eclosion = Eclosion())
     {
-        m_nRange = pEclosion->GetRange();
+        m_nRange = eclosion->GetRange();
         m_sliderRange.SetPos(m_nRange);
     }
     ShowCurrentMode();
@@ -267,77 +244,48 @@ void CDlgPrintSchemeCustomEclosion::Load()
     UpdateData(FALSE);
 }
 
-// The set always holds the four definitions that schemes can name, each protected.
-void CDlgPrintSchemeCustomEclosion::NormaliseSet()
-{
-    const std::uint32_t nCount = m_pSet->GetCount();
-    for (std::uint32_t i = 0; i < std::min(nCount, MIN_ECLOSIONS); ++i)
-    {
-        ICustomEclosion* pEclosion = m_pSet->GetEclosion(i);
-        if (pEclosion && !pEclosion->IsLocked())
-            pEclosion->SetLocked(1);
-    }
-    for (std::uint32_t i = nCount; i < MIN_ECLOSIONS; ++i)
-        AddDefaultEclosion();
-}
-
-void CDlgPrintSchemeCustomEclosion::AddDefaultEclosion()
-{
-    ICustomEclosion* pEclosion = m_pSet->AddEclosion();
-    if (!pEclosion)
-        return;
-    pEclosion->SetLocked(1);
-    pEclosion->SetCurrentMode(0);
-    for (int i = 0; i < DEFAULT_MODES; ++i)
-        if (IEclosionMode* pMode = pEclosion->AddMode())
-        {
-            AddDefaultElement(*pMode);
-            AddDefaultElement(*pMode);
-        }
-}
-
 void CDlgPrintSchemeCustomEclosion::ShowCurrentMode()
 {
-    ICustomEclosion* pEclosion = Eclosion();
-    if (pEclosion)
-        m_nCurMode = pEclosion->GetCurrentMode();
-    ShowElements(CurrentMode(pEclosion));
-    ShowRadios(pEclosion);
+    ICustomEclosion* eclosion = Eclosion();
+    if (eclosion)
+        m_nCurMode = eclosion->GetCurrentMode();
+    ShowElements(At(eclosion, m_nCurMode));
+    ShowRadios(eclosion);
     UpdateData(FALSE);
 }
 
-void CDlgPrintSchemeCustomEclosion::ShowElements(IEclosionMode* pMode)
+void CDlgPrintSchemeCustomEclosion::ShowElements(IEclosionMode* mode)
 {
-    const std::uint32_t nCount = pMode ? pMode->GetElementCount() : 0;
+    const std::uint32_t count = CountOf(mode);
     for (std::uint32_t i = 0; i < m_elements.size(); ++i)
-        ShowElement(m_elements[i], i < nCount ? pMode->GetElement(i) : nullptr, i < nCount);
+        ShowElement(m_elements[i], At(mode, i), i < count);
     UpdateData(FALSE);
     Invalidate();
 }
 
-void CDlgPrintSchemeCustomEclosion::ShowElement(ElementView& view, IEclosionElement* pElement, bool bShow)
+void CDlgPrintSchemeCustomEclosion::ShowElement(ElementView& view, IEclosionElement* element, bool show)
 {
-    for (int nId : {view.nGroupId, view.nWidthLabelId, view.nHeightLabelId, view.nWidthId, view.nHeightId})
-        ShowControl(*GetDlgItem(nId), bShow);
-    view.bShow = bShow;
-    if (pElement)
+    for (int id : {view.groupId, view.widthLabelId, view.heightLabelId, view.widthId, view.heightId})
+        ShowControl(*GetDlgItem(id), show);
+    view.isShown = show;
+    if (element)
     {
-        view.nWidth = pElement->GetWidth();
-        view.nHeight = pElement->GetHeight();
-        view.sliderWidth.SetPos(view.nWidth);
-        view.sliderHeight.SetPos(view.nHeight);
+        view.width = element->GetWidth();
+        view.height = element->GetHeight();
+        view.sliderWidth.SetPos(view.width);
+        view.sliderHeight.SetPos(view.height);
     }
-    GetDlgItem(view.nFrameId)->GetWindowRect(&view.rcPreview);
-    ScreenToClient(&view.rcPreview);
+    GetDlgItem(view.frameId)->GetWindowRect(&view.preview);
+    ScreenToClient(&view.preview);
 }
 
-void CDlgPrintSchemeCustomEclosion::ShowRadios(ICustomEclosion* pEclosion)
+void CDlgPrintSchemeCustomEclosion::ShowRadios(ICustomEclosion* eclosion)
 {
-    std::uint32_t nShown = pEclosion ? pEclosion->GetModeCount() : 0;
-    for (int nId : RADIOS)
+    std::uint32_t shown = CountOf(eclosion);
+    for (int id : RADIOS)
     {
-        ShowControl(*GetDlgItem(nId), nShown > 0);
-        nShown -= nShown > 0 ? 1 : 0;
+        ShowControl(*GetDlgItem(id), shown > 0);
+        shown -= shown > 0 ? 1 : 0;
     }
 }
 
@@ -348,71 +296,67 @@ void CDlgPrintSchemeCustomEclosion::EnableEditing()
         EnableWithoutSet();
         return;
     }
-    ICustomEclosion* pEclosion = CurrentEclosion();
-    IEclosionMode* pMode = CurrentMode(pEclosion);
-    const bool bEditable = pEclosion && (m_bAllowLockedEdit || !pEclosion->IsLocked());
-    const std::uint32_t nModes = pEclosion ? pEclosion->GetModeCount() : 0;
-    const std::uint32_t nElements = pMode ? pMode->GetElementCount() : 0;
-    EnableControl(m_btnAddMode, bEditable && nModes < MAX_MODES);
-    EnableControl(m_btnDelMode, bEditable && pMode && nModes != 0);
-    for (int nId : RADIOS)
-        EnableControl(*GetDlgItem(nId), bEditable && pMode);
-    EnableControl(m_btnAddElement, bEditable && pMode && nElements < MAX_ELEMENTS);
-    EnableControl(m_btnDelElement, bEditable && nElements != 0);
+    ICustomEclosion* eclosion = CurrentEclosion();
+    IEclosionMode* mode = At(eclosion, m_nCurMode);
+    const bool isEditable = eclosion && (m_bAllowLockedEdit || !eclosion->IsLocked());
+    const std::uint32_t modes = CountOf(eclosion);
+    const std::uint32_t elements = CountOf(mode);
+    EnableControl(m_btnAddMode, isEditable && modes < MAX_ECLOSION_MODES);
+    EnableControl(m_btnDelMode, isEditable && mode && modes != 0);
+    for (int id : RADIOS)
+        EnableControl(*GetDlgItem(id), isEditable && mode);
+    EnableControl(m_btnAddElement, isEditable && mode && elements < MAX_ECLOSION_ELEMENTS);
+    EnableControl(m_btnDelElement, isEditable && elements != 0);
     for (ElementView& view : m_elements)
-        for (CSliderCtrl* pSlider : {&view.sliderWidth, &view.sliderHeight})
-            EnableControl(*pSlider, bEditable && pMode);
+        for (CSliderCtrl* slider : {&view.sliderWidth, &view.sliderHeight})
+            EnableControl(*slider, isEditable && mode);
 }
 
 void CDlgPrintSchemeCustomEclosion::EnableWithoutSet()
 {
-    for (CWnd* pControl : std::initializer_list<CWnd*>{&m_btnAddMode, &m_btnDelMode, &m_btnAddElement, &m_btnDelElement,
-                                                       &m_sliderRange, &m_btnSave})
-        EnableControl(*pControl, false);
+    for (CWnd* control : std::initializer_list<CWnd*>{&m_btnAddMode, &m_btnDelMode, &m_btnAddElement, &m_btnDelElement,
+                                                      &m_sliderRange, &m_btnSave})
+        EnableControl(*control, false);
 }
 
 void CDlgPrintSchemeCustomEclosion::MoveRange()
 {
     m_nRange = m_sliderRange.GetPos();
-    if (ICustomEclosion* pEclosion = CurrentEclosion())
-        pEclosion->SetRange(m_nRange);
+    if (ICustomEclosion* eclosion = CurrentEclosion())
+        eclosion->SetRange(m_nRange);
     UpdateData(FALSE);
 }
 
 void CDlgPrintSchemeCustomEclosion::MoveElement(ElementView& view, CSliderCtrl& slider)
 {
-    const bool bWidth = &slider == &view.sliderWidth;
-    const int nPos = slider.GetPos();
-    (bWidth ? view.nWidth : view.nHeight) = nPos;
-    const auto nElement = static_cast<std::uint32_t>(&view - m_elements.data());
-    IEclosionMode* pMode = CurrentMode(CurrentEclosion());
-    if (IEclosionElement* pElement = pMode ? pMode->GetElement(nElement) : nullptr)
-        bWidth ? pElement->SetWidth(nPos) : pElement->SetHeight(nPos);
-    InvalidateRect(&view.rcPreview);
+    const bool isWidth = &slider == &view.sliderWidth;
+    const int position = slider.GetPos();
+    (isWidth ? view.width : view.height) = position;
+    if (IEclosionElement* element = At(At(CurrentEclosion(), m_nCurMode), &view - m_elements.data()))
+        isWidth ? element->SetWidth(position) : element->SetHeight(position);
+    InvalidateRect(&view.preview);
 }
 
 void CDlgPrintSchemeCustomEclosion::PaintPreview(CDC& dc, const ElementView& view) const
 {
-    if (!view.bShow)
+    if (!view.isShown)
     {
-        dc.FillSolidRect(&view.rcPreview, PREVIEW_EMPTY);
+        dc.FillSolidRect(&view.preview, PREVIEW_EMPTY);
         return;
     }
-    const RECT rc = ElementPreview(view.rcPreview, view.nWidth, view.nHeight);
-    dc.FillSolidRect(&rc, PREVIEW_ELEMENT);
+    const RECT& frame = view.preview;
+    const PreviewFrame shown =
+        ElementPreview({frame.left, frame.top, frame.right, frame.bottom}, view.width, view.height);
+    const RECT rect = {shown.left, shown.top, shown.right, shown.bottom};
+    dc.FillSolidRect(&rect, PREVIEW_ELEMENT);
 }
 
 ICustomEclosion* CDlgPrintSchemeCustomEclosion::Eclosion() const
 {
-    return m_pSet ? m_pSet->GetEclosion(0) : nullptr;
+    return At(m_pSet, 0);
 }
 
 ICustomEclosion* CDlgPrintSchemeCustomEclosion::CurrentEclosion() const
 {
-    return m_pSet ? m_pSet->GetEclosion(static_cast<std::uint32_t>(m_pSet->GetCurrentIndex())) : nullptr;
-}
-
-IEclosionMode* CDlgPrintSchemeCustomEclosion::CurrentMode(ICustomEclosion* pEclosion) const
-{
-    return pEclosion && m_nCurMode >= 0 ? pEclosion->GetMode(static_cast<std::uint32_t>(m_nCurMode)) : nullptr;
+    return m_pSet ? At(m_pSet, m_pSet->GetCurrentIndex()) : nullptr;
 }

@@ -43,28 +43,26 @@ private:
     // One element: its controls, and what its preview shows.
     struct ElementView
     {
-        int nGroupId;
-        int nWidthLabelId;
-        int nWidthId;
-        int nHeightLabelId;
-        int nHeightId;
-        int nFrameId;
+        int groupId;
+        int widthLabelId;
+        int widthId;
+        int heightLabelId;
+        int heightId;
+        int frameId;
         CSliderCtrl sliderWidth{};
         CSliderCtrl sliderHeight{};
-        bool bShow = false;
-        int nWidth = 0;
-        int nHeight = 0;
-        RECT rcPreview{};
+        bool isShown = false;
+        int width = 0;
+        int height = 0;
+        RECT preview{};
     };
 
     void InitTrackbars();
     void Load();
-    void NormaliseSet();
-    void AddDefaultEclosion();
     void ShowCurrentMode();
-    void ShowElements(IEclosionMode* pMode);
-    void ShowElement(ElementView& view, IEclosionElement* pElement, bool bShow);
-    void ShowRadios(ICustomEclosion* pEclosion);
+    void ShowElements(IEclosionMode* mode);
+    void ShowElement(ElementView& view, IEclosionElement* element, bool show);
+    void ShowRadios(ICustomEclosion* eclosion);
     void EnableEditing();
     void EnableWithoutSet();
     void MoveRange();
@@ -74,7 +72,6 @@ private:
     // The definition that the dialog edits, and the one that the set names as its current one: the same, once loaded.
     ICustomEclosion* Eclosion() const;
     ICustomEclosion* CurrentEclosion() const;
-    IEclosionMode* CurrentMode(ICustomEclosion* pEclosion) const;
 
     CMFCButton m_btnAddMode;
     CMFCButton m_btnDelMode;

@@ -1,34 +1,39 @@
 #include "dialogs/scheme/DlgPrintSchemeElc.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/Rows.h"
+#include "dialogs/data/CustomEclosion.h"
+#include "dialogs/data/EclosionLevel.h"
+#include "dialogs/data/Machine.h"
+#include "dialogs/data/NumberText.h"
 #include "dialogs/scheme/DlgPrintSchemeCustomEclosion.h"
-#include "dialogs/scheme/EclosionLevel.h"
 #include "frame/ModalRunner.h"
-#include "host/ICustomEclosionSet.h"
-#include "host/IHostData.h"
-#include "host/IPrintScheme.h"
-#include "host/IUserScheme.h"
 #include "resources/resource.h"
-
-#include <algorithm>
 
 namespace
 {
-constexpr int MAX_RANGE = 200;
-constexpr int CUSTOM_ECLOSION_TYPE = 19;
-
-// Types are stored in a byte; a table cannot offer more.
-constexpr int MAX_TYPES = 255;
-
 constexpr int RANGE_LABELS[] = {IDC_STATIC_RANGE_DEFAULT, IDC_STATIC_RD_SS, IDC_STATIC_RD_S, IDC_STATIC_RD_M,
                                 IDC_STATIC_RD_L};
 constexpr int RANGE_EDITS[] = {IDC_EDIT_RANGE_SS, IDC_EDIT_RANGE_S, IDC_EDIT_RANGE_M, IDC_EDIT_RANGE_L};
 constexpr int OTHER_CONTROLS[] = {IDC_CMB_DOT_MODE,   IDC_CMB_ELC_TYPE,        IDC_CMB_ELC_LEVEL,
                                   IDC_BTN_CUSTOM_ELC, IDC_SLIDER_CUSTOM_RANGE, IDC_CMB_HEAD_ELC_TYPE};
+
+const RowView BY_LEVEL = {
+    [](CComboBox& list, int code) { list.SetCurSel(LevelRowOfCode(code)); },
+    [](const CComboBox& list) -> std::optional<int> { return LevelCodeOfRow(list.GetCurSel()); },
+};
 } // namespace
 
-CDlgPrintSchemeElc::CDlgPrintSchemeElc() : CSchemePage(IDD_SCHEME_ELC) {}
+CDlgPrintSchemeElc::CDlgPrintSchemeElc() : CSchemePage(IDD_SCHEME_ELC)
+{
+    BindList(SchemeField::EclosionType, m_cmbEclosionType, BY_DATA);
+    BindList(SchemeField::EclosionLevel, m_cmbEclosionLevel, BY_LEVEL);
+    BindNumber(SchemeField::CustomRange, m_nCustomRange);
+    BindNumber(SchemeField::DefaultRangeSS, m_nRangeSS);
+    BindNumber(SchemeField::DefaultRangeS, m_nRangeS);
+    BindNumber(SchemeField::DefaultRangeM, m_nRangeM);
+    BindNumber(SchemeField::DefaultRangeL, m_nRangeL);
+    BindList(SchemeField::DotMode, m_cmbDotMode, BY_POSITION);
+    BindList(SchemeField::HeadEclosionType, m_cmbHeadEclosionType, BY_POSITION);
+}
 
 void CDlgPrintSchemeElc::DoDataExchange(CDataExchange* pDX)
 {
@@ -43,8 +48,8 @@ void CDlgPrintSchemeElc::DoDataExchange(CDataExchange* pDX)
     DDX_Control(pDX, IDC_SLIDER_CUSTOM_RANGE, m_sliderCustomRange);
     struct
     {
-        int nId;
-        int& nValue;
+        int controlId;
+        int& value;
     } const ranges[] = {{IDC_EDIT_RANGE_L, m_nRangeL},
                         {IDC_EDIT_RANGE_M, m_nRangeM},
                         {IDC_EDIT_RANGE_S, m_nRangeS},
@@ -52,8 +57,8 @@ void CDlgPrintSchemeElc::DoDataExchange(CDataExchange* pDX)
                         {IDC_EDIT_CUSTOM_RANGE, m_nCustomRange}};
     for (const auto& range : ranges)
     {
-        DDX_Text(pDX, range.nId, range.nValue);
-        DDV_MinMaxInt(pDX, range.nValue, 0, MAX_RANGE);
+        DDX_Text(pDX, range.controlId, range.value);
+        DDV_MinMaxInt(pDX, range.value, 0, MAX_ECLOSION_RANGE);
     }
 }
 
@@ -64,17 +69,12 @@ BEGIN_MESSAGE_MAP(CDlgPrintSchemeElc, CSchemePage)
     ON_CBN_SELCHANGE(IDC_CMB_ELC_LEVEL, &CDlgPrintSchemeElc::OnLevelChange)
 END_MESSAGE_MAP()
 
-BOOL CDlgPrintSchemeElc::OnInitDialog()
+void CDlgPrintSchemeElc::InitControls()
 {
-    if (!CSchemePage::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillFixedLists();
-    UpdateCtrlState();
-    LoadFromScheme();
     // The custom dialog is reached through the eclosion type alone.
     ShowControls(std::initializer_list<int>{IDC_STATIC_TYPE_CUSTOM, IDC_CMB_CUSTOM_TYPE, IDC_BTN_CUSTOM_ELC}, false);
-    return TRUE;
+    UpdateCtrlState();
 }
 
 int CDlgPrintSchemeElc::ApplyLanguage()
@@ -108,9 +108,9 @@ void CDlgPrintSchemeElc::UpdateCtrlState()
         return;
     EnableControls(OTHER_CONTROLS, IsEditable());
     EnableControls(RANGE_EDITS, IsEditable());
-    const bool bShowRanges = m_nSchemeId >= 0 && !m_bUserEditor;
-    ShowControls(RANGE_LABELS, bShowRanges);
-    ShowControls(RANGE_EDITS, bShowRanges);
+    const bool showRanges = m_nSchemeId >= 0 && !m_bUserEditor;
+    ShowControls(RANGE_LABELS, showRanges);
+    ShowControls(RANGE_EDITS, showRanges);
 }
 
 void CDlgPrintSchemeElc::LoadFromScheme()
@@ -119,15 +119,8 @@ void CDlgPrintSchemeElc::LoadFromScheme()
         return;
     FillTypes();
     FillLevels();
-    WithScheme([this](auto& scheme) {
-        m_nCustomRange = scheme.GetCustomRange();
-        m_nRangeSS = scheme.GetDefaultRangeSS();
-        m_nRangeS = scheme.GetDefaultRangeS();
-        m_nRangeM = scheme.GetDefaultRangeM();
-        m_nRangeL = scheme.GetDefaultRangeL();
-        m_cmbDotMode.SetCurSel(scheme.GetDotMode());
-        m_cmbHeadEclosionType.SetCurSel(scheme.GetHeadEclosionType());
-    });
+    if (!WithScheme([this](auto& scheme) { LoadFields(scheme); }))
+        m_cmbEclosionLevel.SetCurSel(0);
     m_sliderCustomRange.SetPos(m_nCustomRange);
     m_bOpenCustomOnType = false;
     OnTypeChange();
@@ -140,18 +133,7 @@ void CDlgPrintSchemeElc::SaveToScheme()
 {
     if (!IsEditable() || !UpdateData(TRUE))
         return;
-    const auto byteOf = [](int nValue) { return static_cast<std::uint8_t>(nValue); };
-    WithScheme([&](auto& scheme) {
-        scheme.SetEclosionType(byteOf(SelectedData(m_cmbEclosionType)));
-        scheme.SetEclosionLevel(LevelCodeOfRow(m_cmbEclosionLevel.GetCurSel()));
-        scheme.SetCustomRange(byteOf(m_nCustomRange));
-        scheme.SetDefaultRangeSS(byteOf(m_nRangeSS));
-        scheme.SetDefaultRangeS(byteOf(m_nRangeS));
-        scheme.SetDefaultRangeM(byteOf(m_nRangeM));
-        scheme.SetDefaultRangeL(byteOf(m_nRangeL));
-        scheme.SetDotMode(byteOf(m_cmbDotMode.GetCurSel()));
-        scheme.SetHeadEclosionType(byteOf(m_cmbHeadEclosionType.GetCurSel()));
-    });
+    WithScheme([this](auto& scheme) { SaveFields(scheme); });
     UpdateData(FALSE);
 }
 
@@ -171,19 +153,19 @@ void CDlgPrintSchemeElc::OnCustomEclosion()
     if (!IsEditable() || RunModal(&dialog, L"Quorvane.dll") != IDOK)
         return;
     WithScheme([](auto& scheme) {
-        if (ICustomEclosionSet* pSet = GetHostContext().pData->GetCustomEclosionSet())
-            scheme.SetCustomEclosionId(static_cast<std::uint32_t>(pSet->GetCurrentIndex()));
+        if (ICustomEclosionSet* set = HostData().GetCustomEclosionSet())
+            SetField(scheme, SchemeField::CustomEclosionId, set->GetCurrentIndex());
     });
 }
 
 // A new type enables the trackbar whatever the level is; only a new level or a load looks at the level.
 void CDlgPrintSchemeElc::OnTypeChange()
 {
-    const bool bCustom = !IsPreset() && SelectedData(m_cmbEclosionType) == CUSTOM_ECLOSION_TYPE;
-    const bool bEnable = !IsPreset() && !bCustom;
-    EnableControl(m_cmbEclosionLevel, bEnable);
-    EnableControl(m_sliderCustomRange, bEnable);
-    if (bCustom && m_bOpenCustomOnType)
+    const bool isCustom = !IsPreset() && SelectedNumber(m_cmbEclosionType) == CUSTOM_ECLOSION_TYPE;
+    const bool enable = !IsPreset() && !isCustom;
+    EnableControl(m_cmbEclosionLevel, enable);
+    EnableControl(m_sliderCustomRange, enable);
+    if (isCustom && m_bOpenCustomOnType)
         OnCustomEclosion();
 }
 
@@ -199,7 +181,7 @@ void CDlgPrintSchemeElc::FillFixedLists()
     m_cmbDotMode.AddString(GetLanguageText(L"DOT_MODE3", L""));
     m_cmbDotMode.AddString(GetLanguageText(L"DOT_MODE4", L""));
     m_cmbDotMode.SetCurSel(0);
-    m_sliderCustomRange.SetRange(0, MAX_RANGE);
+    m_sliderCustomRange.SetRange(0, MAX_ECLOSION_RANGE);
     m_cmbHeadEclosionType.AddString(GetLanguageText(L"Template mode", L""));
     m_cmbHeadEclosionType.AddString(GetLanguageText(L"On off mode", L""));
     m_cmbHeadEclosionType.AddString(GetLanguageText(L"Filter mode", L""));
@@ -208,35 +190,33 @@ void CDlgPrintSchemeElc::FillFixedLists()
 
 void CDlgPrintSchemeElc::FillTypes()
 {
-    const int nCurrent = ValueOf([](auto& scheme) { return scheme.GetEclosionType(); }, 0);
-    int nSelect = -1;
+    const int current = ValueOf(SchemeField::EclosionType, 0);
+    int selected = -1;
     Refill(m_cmbEclosionType, [&] {
-        const int nCount = std::min(ParamCount(TABLE_ECLOSION_TYPES), MAX_TYPES);
-        for (int i = 0; i < nCount; ++i)
+        const int count = EclosionTypeCount();
+        for (int type = 0; type < count; ++type)
         {
-            if (ParamValue(TABLE_ECLOSION_TYPES, i) == 0)
+            if (!OffersEclosionType(type))
                 continue;
-            CString strKey;
-            strKey.Format(L"ECL%d_ID", i);
-            const int nRow = AddRow(m_cmbEclosionType, GetLanguageText(strKey, strKey), i);
-            if (i == nCurrent)
-                nSelect = nRow;
+            const std::wstring key = L"ECL" + NumberText(type) + L"_ID";
+            const int row = AddRow(m_cmbEclosionType, GetLanguageText(key.c_str(), key.c_str()), type);
+            if (type == current)
+                selected = row;
         }
     });
-    m_cmbEclosionType.SetCurSel(nSelect);
+    m_cmbEclosionType.SetCurSel(selected);
 }
 
 void CDlgPrintSchemeElc::FillLevels()
 {
-    const bool bCustom = ParamValue(TABLE_CUSTOM_ECLOSION, 0) != 0;
-    RefillUnlessFull(m_cmbEclosionLevel, LEVEL_ROW_CUSTOM + (bCustom ? 1 : 0), [&] {
+    const bool custom = OffersCustomLevel();
+    RefillUnlessFull(m_cmbEclosionLevel, LEVEL_ROW_CUSTOM + (custom ? 1 : 0), [&] {
         m_cmbEclosionLevel.AddString(GetLanguageText(L"CLOSE_ECLOSION", L"Close Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"LIGHT_ECLOSION", L"Light Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"NORMAL_ECLOSION", L"Normal Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"DEPTH_ECLOSION", L"Depth Eclosion"));
         m_cmbEclosionLevel.AddString(GetLanguageText(L"SUPER_ECLOSION", L"Super Eclosion"));
-        if (bCustom)
+        if (custom)
             m_cmbEclosionLevel.AddString(GetLanguageText(L"CUSTOM_ECLOSION", L"Custom Eclosion"));
     });
-    m_cmbEclosionLevel.SetCurSel(LevelRowOfCode(ValueOf([](auto& scheme) { return scheme.GetEclosionLevel(); }, 0)));
 }

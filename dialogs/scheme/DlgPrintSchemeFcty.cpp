@@ -1,43 +1,15 @@
 #include "dialogs/scheme/DlgPrintSchemeFcty.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/Rows.h"
+#include "dialogs/data/Configs.h"
+#include "dialogs/data/CopyScheme.h"
+#include "dialogs/data/SchemeNames.h"
 #include "dialogs/scheme/DlgPrintSchemeCopyToConfig.h"
-#include "dialogs/scheme/SchemeNames.h"
-#include "host/IConfigList.h"
-#include "host/IHostData.h"
-#include "host/IPrintConfig.h"
-#include "host/IPrintScheme.h"
-#include "host/ISchemeParams.h"
 #include "resources/resource.h"
-
-#include <algorithm>
 
 namespace
 {
 // Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
 const UINT WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
-
-IFactorySchemeList* FactorySchemes()
-{
-    return GetHostContext().pData->GetFactorySchemeList();
-}
-
-// Null when the host refuses, or when the new scheme would have no id left to be named by.
-IPrintScheme* AddSchemeTo(IFactorySchemeList* pList)
-{
-    return pList && pList->GetCount() < FIRST_USER_SCHEME ? pList->AddScheme() : nullptr;
-}
-
-void CopyParams(IPrintScheme& target, IPrintScheme* pSource)
-{
-    ISchemeParams* pTarget = target.GetParams();
-    ISchemeParams* pParams = pSource ? pSource->GetParams() : nullptr;
-    if (pTarget && pParams)
-        pTarget->CopyFrom(pParams);
-}
 } // namespace
 
 CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, FALSE) {}
@@ -73,49 +45,42 @@ BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)
 
 void CDlgPrintSchemeFcty::OnAddScheme()
 {
-    IPrintConfig* pConfig = SelectedConfig();
-    IFactorySchemeList* pList = pConfig ? FactorySchemes() : nullptr;
-    IPrintScheme* pScheme = AddSchemeTo(pList);
-    if (!pScheme)
+    IPrintConfig* config = SelectedConfig();
+    if (!config)
         return;
-    const std::optional<std::wstring> configName = WideText(pConfig->GetName());
-    pScheme->SetName(NewSchemeName(configName ? configName->c_str() : nullptr, pList->GetCount()).c_str());
-    pScheme->SetConfigIndex(static_cast<std::uint8_t>(m_lstConfigs.GetCurSel()));
-    const auto nIndex = static_cast<int>(pList->GetCount() - 1);
-    const int nRow = AddSchemeRow(HostText(pScheme->GetName()), nIndex);
-    if (nRow < 0)
-        pList->RemoveAt(static_cast<std::uint32_t>(nIndex));
-    else
-        SelectAddedRow(nRow);
+    const AddedScheme<IPrintScheme> added = AddFactoryScheme();
+    if (!added.scheme)
+        return;
+    added.scheme->SetName(NewSchemeName(config->GetName(), added.id).c_str());
+    SetField(*added.scheme, SchemeField::ConfigIndex, m_lstConfigs.GetCurSel());
+    ShowAddedScheme(HostText(added.scheme->GetName()), added.id);
 }
 
+// As required, the copy dialog runs without the modal runner, like the configuration dialog.
 void CDlgPrintSchemeFcty::OnCopyScheme()
 {
     CDlgPrintSchemeCopyToConfig dialog;
     if (dialog.DoModal() != IDOK || dialog.GetChosen().empty())
         return;
-    const int nSourceId = SelectedSchemeId();
-    IFactorySchemeList* pList = FactorySchemes();
-    if (!pList || nSourceId < 0 || static_cast<std::uint32_t>(nSourceId) >= pList->GetCount())
+    const int sourceId = SelectedSchemeId();
+    if (static_cast<std::uint32_t>(sourceId) >= CountOf(HostData().GetFactorySchemeList()))
         return;
-    for (std::uint32_t nConfig : dialog.GetChosen())
-        CopyTo(nConfig, nSourceId);
+    for (int config : dialog.GetChosen())
+        CopyTo(config, sourceId);
 }
 
-void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
+void CDlgPrintSchemeFcty::CopyTo(int targetConfig, int sourceId)
 {
-    IFactorySchemeList* pList = FactorySchemes();
-    IPrintScheme* pCopy = AddSchemeTo(pList);
-    if (!pCopy)
+    const AddedScheme<IPrintScheme> copy = AddFactoryScheme();
+    if (!copy.scheme)
         return;
-    CopyParams(*pCopy, pList->GetAt(static_cast<std::uint32_t>(nSourceId)));
-    IConfigList* pConfigs = GetHostContext().pData->GetConfigList();
-    IPrintConfig* pConfig = pConfigs ? pConfigs->GetAt(nConfig) : nullptr;
-    if (!pConfig)
+    CopySchemeInto(*copy.scheme, sourceId);
+    IPrintConfig* config = ConfigAt(targetConfig);
+    if (!config)
         return; // the copy stays, where the host put it
-    pCopy->SetConfigIndex(static_cast<std::uint8_t>(nConfig));
-    pCopy->SetName(CopiedSchemeName(pConfig->GetXResolution(), pConfig->GetYResolution()).c_str());
-    if (static_cast<int>(nConfig) == m_lstConfigs.GetCurSel())
+    SetField(*copy.scheme, SchemeField::ConfigIndex, targetConfig);
+    copy.scheme->SetName(CopiedSchemeName(*config).c_str());
+    if (targetConfig == m_lstConfigs.GetCurSel())
         FillSchemeList();
 }
 
@@ -123,78 +88,63 @@ void CDlgPrintSchemeFcty::CopyTo(std::uint32_t nConfig, int nSourceId)
 // list.
 LRESULT CDlgPrintSchemeFcty::OnRightButtonUp(WPARAM, LPARAM)
 {
-    RECT rcRow = {};
-    m_lstSchemes.GetItemRect(0, &rcRow);
-    RECT rcList;
-    m_lstSchemes.GetClientRect(&rcList);
-    m_lstSchemes.ClientToScreen(&rcList);
-    POINT ptCursor;
-    ::GetCursorPos(&ptCursor);
-    const int nRowHeight = rcRow.bottom - rcRow.top;
-    if (nRowHeight > 0)
+    RECT firstRow = {};
+    m_lstSchemes.GetItemRect(0, &firstRow);
+    RECT list;
+    m_lstSchemes.GetClientRect(&list);
+    m_lstSchemes.ClientToScreen(&list);
+    POINT cursor;
+    ::GetCursorPos(&cursor);
+    const int rowHeight = firstRow.bottom - firstRow.top;
+    if (rowHeight > 0)
     {
-        const int nScroll = m_lstSchemes.GetScrollPos(SB_VERT);
-        m_lstSchemes.SetCurSel((nRowHeight * nScroll - rcList.top + ptCursor.y) / nRowHeight);
+        const int firstVisible = m_lstSchemes.GetScrollPos(SB_VERT);
+        m_lstSchemes.SetCurSel((rowHeight * firstVisible - list.top + cursor.y) / rowHeight);
         SelectScheme(true);
         m_lstSchemes.RedrawWindow();
     }
-    if (::PtInRect(&rcList, ptCursor))
-        TrackCopyMenu(ptCursor);
+    if (::PtInRect(&list, cursor))
+        TrackCopyMenu(cursor);
     return 0;
 }
 
-void CDlgPrintSchemeFcty::TrackCopyMenu(POINT ptScreen)
+void CDlgPrintSchemeFcty::TrackCopyMenu(POINT screenPoint)
 {
     CMenu menu;
     if (!menu.LoadMenu(IDR_MENU_COPY))
         return;
     menu.ModifyMenu(IDM_COPY_SCHEME, MF_BYCOMMAND | MF_STRING, IDM_COPY_SCHEME,
                     GetLanguageText(L"IDM_COPY_SCHEME", L""));
-    ::TrackPopupMenu(menu.GetSubMenu(0), TPM_LEFTALIGN | TPM_RIGHTBUTTON, ptScreen.x, ptScreen.y, 0, m_hWnd, nullptr);
+    ::TrackPopupMenu(menu.GetSubMenu(0), TPM_LEFTALIGN | TPM_RIGHTBUTTON, screenPoint.x, screenPoint.y, 0, m_hWnd,
+                     nullptr);
 }
 
 void CDlgPrintSchemeFcty::FillSchemeList()
 {
-    const int nConfig = m_lstConfigs.GetCurSel();
-    if (nConfig < 0)
+    const int config = m_lstConfigs.GetCurSel();
+    if (config < 0)
     {
-        m_lstSchemes.SetRedraw(FALSE); // until the next fill
+        m_lstSchemes.SetRedraw(FALSE); // until the next fill, as required
         m_lstSchemes.ResetContent();
         return;
     }
-    const bool bConfig = SelectedConfig() != nullptr;
+    const bool hasConfig = SelectedConfig() != nullptr;
     Refill(m_lstSchemes, [&] {
-        if (bConfig)
-            AddSchemesOf(nConfig);
+        if (hasConfig)
+            ListSchemesOf(config);
         m_lstSchemes.SetCurSel(0);
     });
-    if (bConfig)
+    if (hasConfig)
         SelectScheme(true);
 }
 
-void CDlgPrintSchemeFcty::AddSchemesOf(int nConfig)
+void CDlgPrintSchemeFcty::ListSchemesOf(int config)
 {
-    IFactorySchemeList* pList = FactorySchemes();
-    const std::uint32_t nCount = HostCount(pList);
-    // A scheme beyond has no id; taken for one, it would name a user scheme.
-    const int nListed = static_cast<int>(std::min<std::uint32_t>(nCount, FIRST_USER_SCHEME));
-    for (int i = 0; i < nListed; ++i)
-    {
-        IPrintScheme* pScheme = pList->GetAt(static_cast<std::uint32_t>(i));
-        if (pScheme && pScheme->GetConfigIndex() == nConfig)
-            AddSchemeRow(HostText(pScheme->GetName()), i);
-    }
+    ForEachFactorySchemeOf(
+        config, [this](IPrintScheme& scheme, int id) { AddRow(m_lstSchemes, HostText(scheme.GetName()).c_str(), id); });
 }
 
-void CDlgPrintSchemeFcty::RemoveFromHost(int nSchemeId)
+void CDlgPrintSchemeFcty::OnShowingScheme(int schemeId)
 {
-    IFactorySchemeList* pList = FactorySchemes();
-    const auto nIndex = static_cast<std::uint32_t>(nSchemeId);
-    if (pList && pList->GetAt(nIndex))
-        pList->RemoveAt(nIndex);
-}
-
-void CDlgPrintSchemeFcty::OnShowingScheme(int nSchemeId)
-{
-    m_pageMode.m_nConfigIndex = nSchemeId >= 0 ? m_lstConfigs.GetCurSel() : -1;
+    m_pageMode.m_nConfigIndex = schemeId >= 0 ? m_lstConfigs.GetCurSel() : -1;
 }

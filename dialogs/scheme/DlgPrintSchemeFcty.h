@@ -26,14 +26,13 @@ protected:
 
     void AddPages() override;
     void FillSchemeList() override;
-    void RemoveFromHost(int nSchemeId) override;
-    void OnShowingScheme(int nSchemeId) override;
+    void OnShowingScheme(int schemeId) override;
 
 private:
-    void AddSchemesOf(int nConfig);
-    void CopyTo(std::uint32_t nConfig, int nSourceId);
+    void ListSchemesOf(int config);
+    void CopyTo(int targetConfig, int sourceId);
     LRESULT OnRightButtonUp(WPARAM, LPARAM);
-    void TrackCopyMenu(POINT ptScreen);
+    void TrackCopyMenu(POINT screenPoint);
 
     CDlgPrintSchemeCmmn m_pageCommon;
     CDlgPrintSchemeMode m_pageMode;

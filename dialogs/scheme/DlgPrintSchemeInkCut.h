@@ -1,12 +1,11 @@
 #pragma once
 
+#include "dialogs/data/Ink.h"
 #include "dialogs/scheme/SchemePage.h"
 
 #include <afxcmn.h>
 
 #include <array>
-
-class IInkGroup;
 
 // Ink cut percentage of the active set-up's ink groups.
 class CDlgPrintSchemeInkCut : public CSchemePage
@@ -20,23 +19,18 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override;
     void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    static constexpr int ROW_COUNT = 12;
-    using Groups = std::array<IInkGroup*, ROW_COUNT>;
+    void ShowRow(std::size_t row, bool show);
+    void LoadRow(std::size_t row, IInkGroup& group);
 
-    // The ink group of every row; null for a row that is not shown.
-    static Groups GroupsOfRows();
-    void ShowRow(int nRow, bool bShow);
-    void LoadRow(size_t nRow, IInkGroup& group);
-
-    std::array<float, ROW_COUNT> m_fInkCut{};
-    std::array<CSliderCtrl, ROW_COUNT> m_sliderInkCut;
-    std::array<CEdit, ROW_COUNT> m_editInkCut;
-    std::array<CStatic, ROW_COUNT> m_lblPercent;
-    std::array<CStatic, ROW_COUNT> m_lblColor;
+    std::array<float, INK_ROWS> m_fInkCut{};
+    std::array<CSliderCtrl, INK_ROWS> m_sliderInkCut;
+    std::array<CEdit, INK_ROWS> m_editInkCut;
+    std::array<CStatic, INK_ROWS> m_lblPercent;
+    std::array<CStatic, INK_ROWS> m_lblColor;
 };

@@ -1,11 +1,10 @@
 #pragma once
 
+#include "dialogs/data/Ink.h"
 #include "dialogs/scheme/SchemePage.h"
 
 #include <array>
 #include <vector>
-
-class IInkChannel;
 
 // Ink multiple of every channel of the scheme's layout.
 class CDlgPrintSchemeInkMul : public CSchemePage
@@ -19,18 +18,13 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override { UpdateCtrlState(); }
 
 private:
-    static constexpr int ROW_COUNT = 12;
+    void LoadRow(std::size_t row, IInkChannel& channel);
+    void FillMultiples(CComboBox& list, int multiple);
 
-    void ShowRow(int nRow, bool bShow);
-    void LoadRow(int nRow);
-    void FillMultiples(CComboBox& combo, int nMultiple);
-    std::vector<IInkChannel*> ChannelsOfLayout() const;
-    bool HasLayout(std::uint8_t nLayoutId) const;
-
-    std::array<CComboBox, ROW_COUNT> m_cmbInkMul;
-    std::array<CStatic, ROW_COUNT> m_lblColor;
-    std::vector<IInkChannel*> m_vecChannels; // the host's, of the rows shown
+    std::array<CComboBox, INK_ROWS> m_cmbInkMul;
+    std::array<CStatic, INK_ROWS> m_lblColor;
+    std::vector<IInkChannel*> m_vecChannels; // the host's, by row; null for a row that is not shown
 };

@@ -1,16 +1,11 @@
 #include "dialogs/scheme/DlgPrintSchemeMode.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostCount.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/PassCounts.h"
-#include "dialogs/base/Rows.h"
-#include "host/IConfigList.h"
-#include "host/IHostData.h"
-#include "host/IPrintConfig.h"
-#include "host/IPrintMode.h"
-#include "host/IPrintScheme.h"
+#include "dialogs/data/Configs.h"
+#include "dialogs/data/NumberText.h"
+#include "dialogs/data/PrintModes.h"
 #include "resources/resource.h"
+
+#include <string>
 
 CDlgPrintSchemeMode::CDlgPrintSchemeMode() : CSchemePage(IDD_SCHEME_MODE) {}
 
@@ -25,16 +20,6 @@ void CDlgPrintSchemeMode::DoDataExchange(CDataExchange* pDX)
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeMode, CSchemePage)
     ON_CBN_SELCHANGE(IDC_CMB_PRINT_MODE, &CDlgPrintSchemeMode::OnModeChange)
 END_MESSAGE_MAP()
-
-BOOL CDlgPrintSchemeMode::OnInitDialog()
-{
-    if (!CSchemePage::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
-    FillFixedLists();
-    LoadFromScheme();
-    return TRUE;
-}
 
 int CDlgPrintSchemeMode::ApplyLanguage()
 {
@@ -55,19 +40,19 @@ void CDlgPrintSchemeMode::UpdateCtrlState()
 
 void CDlgPrintSchemeMode::LoadFromScheme()
 {
-    IPrintScheme* pScheme = BoundScheme();
-    IPrintConfig* pConfig = Config(); // asked for anew: the host may have lost it meanwhile
-    if (!pScheme || !pConfig)
+    IPrintScheme* scheme = BoundScheme();
+    IPrintConfig* config = ConfigAt(m_nConfigIndex);
+    if (!scheme || !config)
         return;
-    int nSelect = FillModes(*pConfig, pScheme->GetModeIndex());
+    int selected = FillModes(*config, GetField(*scheme, SchemeField::ModeIndex));
     if (m_cmbMode.GetCount() > 0)
     {
-        if (nSelect < 0)
+        if (selected < 0)
         {
-            pScheme->SetModeIndex(static_cast<std::uint8_t>(m_cmbMode.GetItemData(0)));
-            nSelect = 0;
+            SetField(*scheme, SchemeField::ModeIndex, static_cast<int>(m_cmbMode.GetItemData(0)));
+            selected = 0;
         }
-        m_cmbMode.SetCurSel(nSelect);
+        m_cmbMode.SetCurSel(selected);
         ShowModeDetails();
     }
     UpdateData(FALSE);
@@ -76,66 +61,49 @@ void CDlgPrintSchemeMode::LoadFromScheme()
 void CDlgPrintSchemeMode::SaveToScheme()
 {
     UpdateData(TRUE);
-    IPrintScheme* pScheme = BoundScheme();
-    if (pScheme && m_cmbMode.GetCurSel() >= 0)
-        pScheme->SetModeIndex(static_cast<std::uint8_t>(SelectedData(m_cmbMode)));
+    IPrintScheme* scheme = BoundScheme();
+    if (scheme && m_cmbMode.GetCurSel() >= 0)
+        SetField(*scheme, SchemeField::ModeIndex, SelectedNumber(m_cmbMode));
 }
 
-void CDlgPrintSchemeMode::FillFixedLists()
+void CDlgPrintSchemeMode::InitControls()
 {
-    for (LPCTSTR pszPassCount : PASS_COUNTS)
-        m_cmbPass.AddString(pszPassCount);
+    for (const wchar_t* passCount : PASS_COUNTS)
+        m_cmbPass.AddString(passCount);
     m_cmbPass.SetCurSel(0);
     FillSwitch(m_cmbStayMode, L"禁用", L"启用");
     m_cmbStayMode.SetCurSel(0);
 }
 
-// Gives the mode's index when it is listed, else -1. The index is later used as the row as it is: where a disabled mode
-// stands before, a later mode's row is selected.
-int CDlgPrintSchemeMode::FillModes(IPrintConfig& config, int nModeIndex)
+// Gives the mode's index when it is listed, else -1. As required, the index is later used as the row as it is: where a
+// disabled mode stands before, a later mode's row is selected.
+int CDlgPrintSchemeMode::FillModes(IPrintConfig& config, int modeIndex)
 {
-    int nFound = -1;
+    int found = -1;
     Refill(m_cmbMode, [&] {
-        const int nCount = static_cast<int>(SaneCount(config.GetModeCount()));
-        for (int k = 0; k < nCount; ++k)
-        {
-            IPrintMode* pMode = config.GetMode(static_cast<std::uint32_t>(k));
-            if (!pMode || pMode->GetDisabled())
-                continue;
-            AddRow(m_cmbMode, HostText(pMode->GetName()), k);
-            if (k == nModeIndex)
-                nFound = k;
-        }
+        ForEach(&config, [&](IPrintMode& mode, int index) {
+            if (mode.GetDisabled())
+                return;
+            AddRow(m_cmbMode, HostText(mode.GetName()).c_str(), index);
+            if (index == modeIndex)
+                found = index;
+        });
     });
     m_cmbMode.SetCurSel(-1); // an empty list, too, must show that nothing is selected
-    return nFound;
+    return found;
 }
 
 void CDlgPrintSchemeMode::ShowModeDetails()
 {
-    const int nRow = m_cmbMode.GetCurSel();
-    IPrintConfig* pConfig = nRow >= 0 ? Config() : nullptr;
-    IPrintMode* pMode = pConfig ? pConfig->GetMode(static_cast<std::uint32_t>(nRow)) : nullptr;
-    if (!pMode)
+    IPrintMode* mode = At(ConfigAt(m_nConfigIndex), m_cmbMode.GetCurSel());
+    if (!mode)
         return;
-    CString strPass;
-    strPass.Format(L"%d", pMode->GetPassCount());
-    m_cmbPass.SetCurSel(m_cmbPass.FindStringExact(-1, strPass));
-    m_cmbStayMode.SetCurSel(pMode->GetResident());
-}
-
-IPrintConfig* CDlgPrintSchemeMode::Config() const
-{
-    IConfigList* pList = GetHostContext().pData->GetConfigList();
-    const auto nIndex = static_cast<std::uint32_t>(m_nConfigIndex);
-    return pList && nIndex < pList->GetCount() ? pList->GetAt(nIndex) : nullptr;
+    m_cmbPass.SetCurSel(m_cmbPass.FindStringExact(-1, NumberText(mode->GetPassCount()).c_str()));
+    m_cmbStayMode.SetCurSel(mode->GetResident());
 }
 
 IPrintScheme* CDlgPrintSchemeMode::BoundScheme() const
 {
-    IFactorySchemeList* pList = GetHostContext().pData->GetFactorySchemeList();
-    if (!Config() || IsUserScheme() || !pList || static_cast<std::uint32_t>(m_nSchemeId) >= pList->GetCount())
-        return nullptr;
-    IPrintScheme* pScheme = pList->GetAt(static_cast<std::uint32_t>(m_nSchemeId));
-    return pScheme && pScheme->GetConfigIndex() == m_nConfigIndex ? pScheme : nullptr;
+    IPrintScheme* scheme = ConfigAt(m_nConfigIndex) ? FactorySchemeAt(m_nSchemeId) : nullptr;
+    return scheme && BelongsTo(*scheme, m_nConfigIndex) ? scheme : nullptr;
 }

@@ -3,7 +3,6 @@
 #include "dialogs/scheme/SchemePage.h"
 
 class IPrintConfig;
-class IPrintMode;
 
 // Binds a factory scheme to a print mode of its configuration. Only the factory editor has it.
 class CDlgPrintSchemeMode : public CSchemePage
@@ -20,18 +19,16 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override;
     void OnModeChange() { ShowModeDetails(); }
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    void FillFixedLists();
-    int FillModes(IPrintConfig& config, int nModeIndex);
+    int FillModes(IPrintConfig& config, int modeIndex);
     void ShowModeDetails();
     // Null unless the scheme belongs to the editor's configuration and both exist.
     IPrintScheme* BoundScheme() const;
-    IPrintConfig* Config() const;
 
     CComboBox m_cmbMode;
     CComboBox m_cmbPass;

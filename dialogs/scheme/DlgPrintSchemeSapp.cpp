@@ -1,6 +1,5 @@
 #include "dialogs/scheme/DlgPrintSchemeSapp.h"
 
-#include "host/IPrintScheme.h"
 #include "resources/resource.h"
 
 CDlgPrintSchemeSapp::CDlgPrintSchemeSapp() : CSchemePage(IDD_SCHEME_SAPP) {}
@@ -12,16 +11,11 @@ void CDlgPrintSchemeSapp::DoDataExchange(CDataExchange* pDX)
     DDX_Text(pDX, IDC_EDIT_SMALL_OFFSET, m_nSmallOffset);
 }
 
-BOOL CDlgPrintSchemeSapp::OnInitDialog()
+void CDlgPrintSchemeSapp::InitControls()
 {
-    if (!CSchemePage::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
     FillSwitch(m_cmbSmallMode, L"", L"");
-    m_cmbSmallMode.SetCurSel(m_nLoadedMode);
+    m_cmbSmallMode.SetCurSel(m_nShownMode);
     UpdateCtrlState();
-    LoadFromScheme();
-    return TRUE;
 }
 
 int CDlgPrintSchemeSapp::ApplyLanguage()
@@ -46,24 +40,23 @@ void CDlgPrintSchemeSapp::LoadFromScheme()
 {
     if (m_nSchemeId < 0)
         return;
-    if (IPrintScheme* pScheme = FactoryScheme())
+    if (IPrintScheme* scheme = FactorySchemeOf(m_nSchemeId))
     {
-        m_nLoadedMode = pScheme->GetSmallFormatMode();
-        m_cmbSmallMode.SetCurSel(m_nLoadedMode);
-        m_nSmallOffset = pScheme->GetSmallFormatOffset();
+        m_nShownMode = GetField(*scheme, SchemeField::SmallFormatMode);
+        m_cmbSmallMode.SetCurSel(m_nShownMode);
+        m_nSmallOffset = GetField(*scheme, SchemeField::SmallFormatOffset);
     }
     UpdateData(FALSE);
 }
 
-// Alone among the pages this one writes a preset too: what it showed goes back unchanged.
+// Alone among the pages this one writes a preset too, as required: what it showed goes back unchanged.
 void CDlgPrintSchemeSapp::SaveToScheme()
 {
     if (!UpdateData(TRUE))
         UpdateData(FALSE); // the value stays as it was, and shows again: a locked field must not ask a second time
-    IPrintScheme* pScheme = m_nSchemeId >= 0 ? FactoryScheme() : nullptr;
-    if (!pScheme)
+    IPrintScheme* scheme = m_nSchemeId >= 0 ? FactorySchemeOf(m_nSchemeId) : nullptr;
+    if (!scheme)
         return;
-    const int nMode = m_bUserEditor ? m_nLoadedMode : m_cmbSmallMode.GetCurSel();
-    pScheme->SetSmallFormatMode(static_cast<std::uint8_t>(nMode));
-    pScheme->SetSmallFormatOffset(static_cast<std::uint16_t>(m_nSmallOffset));
+    SetField(*scheme, SchemeField::SmallFormatMode, m_bUserEditor ? m_nShownMode : m_cmbSmallMode.GetCurSel());
+    SetField(*scheme, SchemeField::SmallFormatOffset, m_nSmallOffset);
 }

@@ -16,10 +16,10 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override;
 
 private:
     CComboBox m_cmbSmallMode;
     int m_nSmallOffset = 0;
-    int m_nLoadedMode = 1; // what a locked switch stands for, even a value that it has no row for
+    int m_nShownMode = 1; // what a locked switch stands for, even a value that it has no row for
 };

@@ -1,7 +1,5 @@
 #include "dialogs/scheme/DlgPrintSchemeUv.h"
 
-#include "host/IPrintScheme.h"
-#include "host/IUserScheme.h"
 #include "resources/resource.h"
 
 namespace
@@ -10,7 +8,13 @@ constexpr int LAMPS[] = {IDC_CHECK_LPRINT_LLIGHT, IDC_CHECK_LPRINT_RLIGHT, IDC_C
                          IDC_CHECK_RPRINT_RLIGHT};
 } // namespace
 
-CDlgPrintSchemeUv::CDlgPrintSchemeUv() : CSchemePage(IDD_SCHEME_UV) {}
+CDlgPrintSchemeUv::CDlgPrintSchemeUv() : CSchemePage(IDD_SCHEME_UV)
+{
+    BindNumber(SchemeField::LampLL, m_bLPrintLLight);
+    BindNumber(SchemeField::LampLR, m_bLPrintRLight);
+    BindNumber(SchemeField::LampRL, m_bRPrintLLight);
+    BindNumber(SchemeField::LampRR, m_bRPrintRLight);
+}
 
 void CDlgPrintSchemeUv::DoDataExchange(CDataExchange* pDX)
 {
@@ -19,16 +23,6 @@ void CDlgPrintSchemeUv::DoDataExchange(CDataExchange* pDX)
     DDX_Check(pDX, IDC_CHECK_LPRINT_RLIGHT, m_bLPrintRLight);
     DDX_Check(pDX, IDC_CHECK_RPRINT_LLIGHT, m_bRPrintLLight);
     DDX_Check(pDX, IDC_CHECK_RPRINT_RLIGHT, m_bRPrintRLight);
-}
-
-BOOL CDlgPrintSchemeUv::OnInitDialog()
-{
-    if (!CSchemePage::OnInitDialog())
-        return FALSE;
-    InitLanguage(L"DLG_PRINT_SCHEME", this);
-    UpdateCtrlState();
-    LoadFromScheme();
-    return TRUE;
 }
 
 int CDlgPrintSchemeUv::ApplyLanguage()
@@ -55,12 +49,7 @@ void CDlgPrintSchemeUv::LoadFromScheme()
 {
     if (m_nSchemeId < 0)
         return;
-    WithScheme([this](auto& scheme) {
-        m_bLPrintLLight = scheme.GetLampLL();
-        m_bLPrintRLight = scheme.GetLampLR();
-        m_bRPrintLLight = scheme.GetLampRL();
-        m_bRPrintRLight = scheme.GetLampRR();
-    });
+    WithScheme([this](auto& scheme) { LoadFields(scheme); });
     UpdateData(FALSE);
 }
 
@@ -69,10 +58,5 @@ void CDlgPrintSchemeUv::SaveToScheme()
     if (!IsEditable())
         return;
     UpdateData(TRUE);
-    WithScheme([this](auto& scheme) {
-        scheme.SetLampLL(static_cast<std::uint8_t>(m_bLPrintLLight));
-        scheme.SetLampLR(static_cast<std::uint8_t>(m_bLPrintRLight));
-        scheme.SetLampRL(static_cast<std::uint8_t>(m_bRPrintLLight));
-        scheme.SetLampRR(static_cast<std::uint8_t>(m_bRPrintRLight));
-    });
+    WithScheme([this](auto& scheme) { SaveFields(scheme); });
 }

@@ -15,7 +15,7 @@ public:
 
 protected:
     void DoDataExchange(CDataExchange* pDX) override;
-    BOOL OnInitDialog() override;
+    void InitControls() override { UpdateCtrlState(); }
 
 private:
     int m_bLPrintLLight = 0; // leftward pass, left lamp

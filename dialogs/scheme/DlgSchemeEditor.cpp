@@ -1,13 +1,12 @@
 #include "dialogs/scheme/DlgSchemeEditor.h"
 
 #include "dialogs/base/DlgPrintModeAddCfg.h"
-#include "dialogs/base/Rows.h"
-#include "dialogs/scheme/ConfigNames.h"
+#include "dialogs/data/Configs.h"
 #include "resources/resource.h"
 
-CDlgSchemeEditor::CDlgSchemeEditor(UINT nIDTemplate, BOOL bUserEditor)
-    : CDlgEditor(nIDTemplate, L"DLG_PRINT_SCHEME", bUserEditor ? SAVE_USER_DATA : SAVE_FACTORY_DATA),
-      m_bUserEditor(bUserEditor)
+CDlgSchemeEditor::CDlgSchemeEditor(UINT templateId, BOOL userEditor)
+    : CDlgEditor(templateId, L"DLG_PRINT_SCHEME", userEditor ? SaveKind::UserData : SaveKind::FactoryData),
+      m_bUserEditor(userEditor)
 {
 }
 
@@ -28,10 +27,10 @@ BEGIN_MESSAGE_MAP(CDlgSchemeEditor, CDlgEditor)
     ON_BN_CLICKED(IDC_BTN_APPLY, &CDlgSchemeEditor::OnApply)
 END_MESSAGE_MAP()
 
-void CDlgSchemeEditor::AddSchemePage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey)
+void CDlgSchemeEditor::AddSchemePage(CSchemePage& page, UINT templateId, const wchar_t* tabKey)
 {
     page.m_bUserEditor = m_bUserEditor;
-    AddPage(page, nTemplate, pszTabKey);
+    AddPage(page, templateId, tabKey);
     m_vecPages.push_back(&page);
 }
 
@@ -45,76 +44,80 @@ void CDlgSchemeEditor::FillLists()
 void CDlgSchemeEditor::StoreEdits()
 {
     SavePages();
-    for (int nSchemeId : m_deletions.InRemovalOrder())
-        RemoveFromHost(nSchemeId);
+    for (int schemeId : m_deletions.InRemovalOrder())
+        RemoveScheme(schemeId);
 }
 
 void CDlgSchemeEditor::OnDeleteScheme()
 {
-    const int nRow = m_lstSchemes.GetCurSel();
-    const int nSchemeId = SelectedSchemeId();
-    if (m_lstConfigs.GetCurSel() < 0 || nSchemeId < FirstDeletableId())
+    const int row = m_lstSchemes.GetCurSel();
+    const int schemeId = SelectedSchemeId();
+    if (m_lstConfigs.GetCurSel() < 0 || !IsDeletable(schemeId))
         return;
-    m_lstSchemes.DeleteString(static_cast<UINT>(nRow));
-    m_deletions.Add(nSchemeId);
-    m_lstSchemes.SetRedraw(TRUE);
-    m_lstSchemes.SetCurSel(RowAfterDelete(nRow, m_lstSchemes.GetCount()));
+    m_lstSchemes.DeleteString(static_cast<UINT>(row));
+    m_deletions.Add(schemeId);
+    m_lstSchemes.SetRedraw(TRUE); // without a partner, as required
+    m_lstSchemes.SetCurSel(RowAfterDelete(row, m_lstSchemes.GetCount()));
     SelectScheme(false); // the pages hold the deleted scheme's values
 }
 
+// As required, the configuration dialog runs under the resources that the editor's own run has made current, and needs
+// no modal runner.
 void CDlgSchemeEditor::OnViewConfig()
 {
-    IPrintConfig* pConfig = SelectedConfig();
-    if (!pConfig)
+    IPrintConfig* config = SelectedConfig();
+    if (!config)
         return;
     CDlgPrintModeAddCfg dialog;
     dialog.m_bNameLocked = TRUE;
     dialog.m_bParamsLocked = TRUE;
-    dialog.ReadFrom(*pConfig);
+    dialog.SetValues(ReadConfig(*config));
     dialog.DoModal();
 }
 
 void CDlgSchemeEditor::SavePages()
 {
-    for (CSchemePage* pPage : m_vecPages)
-        pPage->SaveToScheme();
+    for (CSchemePage* page : m_vecPages)
+        page->SaveToScheme();
 }
 
 // The pages still hold the scheme that was shown until now, so what was edited goes there.
-void CDlgSchemeEditor::SelectScheme(bool bSaveFirst)
+void CDlgSchemeEditor::SelectScheme(bool saveFirst)
 {
-    if (bSaveFirst)
+    if (saveFirst)
         SavePages();
-    const int nSchemeId = SelectedSchemeId();
-    EnableControl(m_btnDelete, nSchemeId >= FirstDeletableId());
-    OnShowingScheme(nSchemeId);
-    for (CSchemePage* pPage : m_vecPages)
-        pPage->ShowScheme(nSchemeId);
+    const int schemeId = SelectedSchemeId();
+    EnableControl(m_btnDelete, IsDeletable(schemeId));
+    OnShowingScheme(schemeId);
+    for (CSchemePage* page : m_vecPages)
+        page->ShowScheme(schemeId);
 }
 
-int CDlgSchemeEditor::AddSchemeRow(LPCTSTR pszText, int nSchemeId)
+void CDlgSchemeEditor::ShowAddedScheme(const std::wstring& name, int schemeId)
 {
-    const int nRow = m_lstSchemes.AddString(pszText);
-    if (nRow >= 0)
-        m_lstSchemes.SetItemData(nRow, static_cast<DWORD_PTR>(static_cast<INT_PTR>(nSchemeId)));
-    return nRow;
-}
-
-void CDlgSchemeEditor::SelectAddedRow(int nRow)
-{
-    m_lstSchemes.SetRedraw(TRUE);
-    m_lstSchemes.SetCurSel(nRow);
+    const int row = AddRow(m_lstSchemes, name.c_str(), schemeId);
+    if (row < 0)
+    {
+        RemoveScheme(schemeId);
+        return;
+    }
+    m_lstSchemes.SetRedraw(TRUE); // without a partner, as required
+    m_lstSchemes.SetCurSel(row);
     SelectScheme(true);
 }
 
 int CDlgSchemeEditor::SelectedSchemeId() const
 {
-    const int nRow = m_lstSchemes.GetCurSel();
-    return nRow >= 0 ? static_cast<int>(m_lstSchemes.GetItemData(nRow)) : NO_SCHEME;
+    return SelectedNumber(m_lstSchemes);
 }
 
 IPrintConfig* CDlgSchemeEditor::SelectedConfig() const
 {
-    const int nRow = m_lstConfigs.GetCurSel();
-    return nRow >= 0 ? reinterpret_cast<IPrintConfig*>(m_lstConfigs.GetItemData(nRow)) : nullptr;
+    return RowObject<IPrintConfig>(m_lstConfigs, m_lstConfigs.GetCurSel());
+}
+
+// A factory scheme is only a preset in the user editor.
+bool CDlgSchemeEditor::IsDeletable(int schemeId) const
+{
+    return IsUserSchemeId(schemeId) || (!m_bUserEditor && IsFactorySchemeId(schemeId));
 }

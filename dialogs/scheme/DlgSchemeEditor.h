@@ -1,19 +1,20 @@
 #pragma once
 
 #include "dialogs/base/DlgEditor.h"
-#include "dialogs/scheme/PendingDeletions.h"
+#include "dialogs/data/PendingDeletions.h"
 #include "dialogs/scheme/SchemePage.h"
 
+#include <string>
 #include <vector>
 
 class IPrintConfig;
 
 // What the factory and the user editor share: configurations on the left, the schemes of the selected one beside them,
-// and pages for the selected scheme. Deleted schemes stay in the host until OK, so that no index moves meanwhile.
+// and pages for the selected scheme. Deleted schemes stay in the host until OK, so that no index moves before.
 class CDlgSchemeEditor : public CDlgEditor
 {
 protected:
-    CDlgSchemeEditor(UINT nIDTemplate, BOOL bUserEditor);
+    CDlgSchemeEditor(UINT templateId, BOOL userEditor);
 
     void DoDataExchange(CDataExchange* pDX) override;
     void FillLists() override;
@@ -30,16 +31,13 @@ protected:
 
     // Shows the schemes of the selected configuration.
     virtual void FillSchemeList() = 0;
-    // Removes a scheme that was deleted in this run, if the host still has it.
-    virtual void RemoveFromHost(int nSchemeId) = 0;
     // Called when the pages were saved and before they show another scheme.
     virtual void OnShowingScheme(int) {}
 
-    void AddSchemePage(CSchemePage& page, UINT nTemplate, LPCTSTR pszTabKey);
-    void SelectScheme(bool bSaveFirst);
-    // Adds a row for a scheme; negative when the list refuses it.
-    int AddSchemeRow(LPCTSTR pszText, int nSchemeId);
-    void SelectAddedRow(int nRow);
+    void AddSchemePage(CSchemePage& page, UINT templateId, const wchar_t* tabKey);
+    void SelectScheme(bool saveFirst);
+    // Lists and selects a scheme that the host has just added; takes it back where the list refuses the row.
+    void ShowAddedScheme(const std::wstring& name, int schemeId);
     // The selected scheme's id; negative for none.
     int SelectedSchemeId() const;
     // Null for no selection.
@@ -51,8 +49,7 @@ protected:
 
 private:
     void SavePages();
-    // A factory scheme is only a preset in the user editor.
-    int FirstDeletableId() const { return m_bUserEditor ? FIRST_USER_SCHEME : 0; }
+    bool IsDeletable(int schemeId) const;
 
     std::vector<CSchemePage*> m_vecPages;
     CPendingDeletions m_deletions;

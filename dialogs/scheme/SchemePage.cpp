@@ -1,42 +1,111 @@
 #include "dialogs/scheme/SchemePage.h"
 
-#include "dialogs/base/HostText.h"
+const RowView BY_POSITION = {
+    [](CComboBox& list, int value) { list.SetCurSel(value); },
+    [](const CComboBox& list) -> std::optional<int> { return list.GetCurSel(); },
+};
 
-void CSchemePage::ShowScheme(int nSchemeId)
+const RowView BY_DATA = {
+    nullptr,
+    [](const CComboBox& list) -> std::optional<int> { return SelectedNumber(list); },
+};
+
+BOOL CSchemePage::OnInitDialog()
 {
-    m_nSchemeId = nSchemeId;
+    if (!CDialogEx::OnInitDialog())
+        return FALSE;
+    InitLanguage(L"DLG_PRINT_SCHEME", this);
+    InitControls();
+    LoadFromScheme();
+    return TRUE;
+}
+
+void CSchemePage::ShowScheme(int schemeId)
+{
+    m_nSchemeId = schemeId;
     if (!m_hWnd)
         return;
     UpdateCtrlState();
     LoadFromScheme();
 }
 
-IPrintScheme* CSchemePage::FactoryScheme() const
+int CSchemePage::ValueOf(SchemeField field, int fallback) const
 {
-    return IsUserScheme() ? BaseSchemeOf(UserScheme()) : FactorySchemeAt(m_nSchemeId);
+    int value = fallback;
+    WithScheme([&](auto& scheme) { value = GetField(scheme, field); });
+    return value;
 }
 
-CString CSchemePage::TranslatedName(const char* pszNarrow) const
+void CSchemePage::BindNumber(SchemeField field, int& number)
 {
-    const CString strName = HostText(pszNarrow);
-    return GetLanguageText(strName, strName);
+    m_vecFields.push_back({field, &number, nullptr, nullptr});
 }
 
-int CSchemePage::AddRow(CComboBox& combo, LPCTSTR pszText, int nData)
+void CSchemePage::BindList(SchemeField field, CComboBox& list, const RowView& view)
 {
-    const int nRow = combo.AddString(pszText);
-    if (nRow >= 0)
-        combo.SetItemData(nRow, static_cast<DWORD_PTR>(static_cast<INT_PTR>(nData)));
-    return nRow;
+    m_vecFields.push_back({field, nullptr, &list, &view});
 }
 
-int CSchemePage::SelectedData(const CComboBox& combo)
+template <class Scheme>
+void CSchemePage::LoadBound(Scheme& scheme, IPrintScheme* factory)
 {
-    return static_cast<int>(combo.GetItemData(combo.GetCurSel()));
+    for (const BoundField& bound : m_vecFields)
+        if (!IsFactoryField(bound.field))
+            ShowValue(bound, GetField(scheme, bound.field));
+        else if (factory)
+            ShowValue(bound, GetField(*factory, bound.field));
 }
 
-void CSchemePage::FillSwitch(CComboBox& combo, LPCTSTR pszOffDefault, LPCTSTR pszOnDefault)
+void CSchemePage::LoadFields(IPrintScheme& scheme)
 {
-    combo.AddString(GetLanguageText(L"DISABLE", pszOffDefault));
-    combo.AddString(GetLanguageText(L"ENABLE", pszOnDefault));
+    LoadBound(scheme, &scheme);
+}
+
+void CSchemePage::LoadFields(IUserScheme& scheme)
+{
+    LoadBound(scheme, BaseSchemeOf(&scheme));
+}
+
+template <class Scheme>
+void CSchemePage::SaveBound(Scheme& scheme) const
+{
+    for (const BoundField& bound : m_vecFields)
+        if (HasField(scheme, bound.field))
+            if (const std::optional<int> value = ShownValue(bound))
+                SetField(scheme, bound.field, *value);
+}
+
+void CSchemePage::SaveFields(IPrintScheme& scheme) const
+{
+    SaveBound(scheme);
+}
+
+void CSchemePage::SaveFields(IUserScheme& scheme) const
+{
+    SaveBound(scheme);
+}
+
+void CSchemePage::ShowValue(const BoundField& bound, int value)
+{
+    if (bound.number)
+        *bound.number = value;
+    else if (bound.view->show)
+        bound.view->show(*bound.list, value);
+}
+
+std::optional<int> CSchemePage::ShownValue(const BoundField& bound)
+{
+    return bound.number ? *bound.number : bound.view->read(*bound.list);
+}
+
+CString CSchemePage::TranslatedName(const char* narrow) const
+{
+    const std::wstring name = HostText(narrow);
+    return GetLanguageText(name.c_str(), name.c_str());
+}
+
+void CSchemePage::FillSwitch(CComboBox& list, const wchar_t* offDefault, const wchar_t* onDefault)
+{
+    list.AddString(GetLanguageText(L"DISABLE", offDefault));
+    list.AddString(GetLanguageText(L"ENABLE", onDefault));
 }

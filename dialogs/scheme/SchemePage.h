@@ -1,19 +1,37 @@
 #pragma once
 
+#include "dialogs/base/Controls.h"
 #include "dialogs/base/DlgBase.h"
-#include "dialogs/scheme/SchemeRecords.h"
+#include "dialogs/data/Schemes.h"
 
 #include <afxdialogex.h>
+
+#include <optional>
+#include <vector>
+
+// How the rows of a list stand for a value.
+struct RowView
+{
+    // Null where the page selects the row itself while it fills the list.
+    void (*show)(CComboBox& list, int value);
+    // Nothing where the list holds no value to store.
+    std::optional<int> (*read)(const CComboBox& list);
+};
+
+// A row's position is the value.
+extern const RowView BY_POSITION;
+// A row's data is the value; the page selects the row.
+extern const RowView BY_DATA;
 
 // A page of the scheme editors. An editor sets m_bUserEditor once, before it creates the page; from then on it only
 // names another scheme and calls the three operations. A page keeps no record: it looks its scheme up each time.
 class CSchemePage : public CDialogEx, public CDlgBase
 {
 public:
-    using CDialogEx::CDialogEx;
+    explicit CSchemePage(UINT templateId) : CDialogEx(templateId) {}
 
     // Names the scheme; with a window, sets the controls' state and loads too.
-    void ShowScheme(int nSchemeId);
+    void ShowScheme(int schemeId);
 
     // Enables the controls from the scheme id and the editor; nothing while they are not created.
     virtual void UpdateCtrlState() = 0;
@@ -26,63 +44,70 @@ public:
     BOOL m_bUserEditor = FALSE; // there a factory scheme is a preset, shown read-only
 
 protected:
-    bool IsUserScheme() const { return m_nSchemeId >= FIRST_USER_SCHEME; }
+    BOOL OnInitDialog() override;
+    // What the page needs before it loads for the first time.
+    virtual void InitControls() {}
+
+    bool IsUserScheme() const { return IsUserSchemeId(m_nSchemeId); }
     bool IsEditable() const { return m_nSchemeId >= 0 && (!m_bUserEditor || IsUserScheme()); }
 
-    IUserScheme* UserScheme() const { return UserSchemeAt(m_nSchemeId - FIRST_USER_SCHEME); }
-    // The factory scheme itself, or the one that the user scheme was made from.
-    IPrintScheme* FactoryScheme() const;
-
-    // Calls the visitor with the factory or the user record: two interfaces with operations of equal names. False
-    // when the record is missing.
+    // Calls the visitor with the factory or the user record; false when the record is missing.
     template <class Visitor>
     bool WithScheme(Visitor visit) const
     {
-        if (IsUserScheme())
-            return VisitRecord(UserScheme(), visit);
-        return VisitRecord(FactorySchemeAt(m_nSchemeId), visit);
+        return VisitScheme(m_nSchemeId, visit);
     }
 
     // A value of the record, or the fallback when the record is missing.
-    template <class Getter>
-    int ValueOf(Getter get, int nFallback) const
-    {
-        int nValue = nFallback;
-        WithScheme([&](auto& scheme) { nValue = get(scheme); });
-        return nValue;
-    }
+    int ValueOf(SchemeField field, int fallback) const;
+
+    // Bind the flat fields of the page, each with the member or list that holds its value, in the order in which they
+    // are stored. Load and save go through what is bound. A number is exchanged with its control by the page.
+    void BindNumber(SchemeField field, int& number);
+    void BindList(SchemeField field, CComboBox& list, const RowView& view);
+
+    // A user scheme shows the fields that only factory schemes have from its base scheme, and does not store them.
+    void LoadFields(IPrintScheme& scheme);
+    void LoadFields(IUserScheme& scheme);
+    void SaveFields(IPrintScheme& scheme) const;
+    void SaveFields(IUserScheme& scheme) const;
 
     // A host's name in the language that is set; the name itself where the page's section does not have it.
-    CString TranslatedName(const char* pszNarrow) const;
+    CString TranslatedName(const char* narrow) const;
 
-    // Adds a row with its item data and gives its position; a row that the control refuses has no data.
-    static int AddRow(CComboBox& combo, LPCTSTR pszText, int nData);
-    // The selected row's data; -1 without a selection.
-    static int SelectedData(const CComboBox& combo);
     // The rows "off" and "on".
-    void FillSwitch(CComboBox& combo, LPCTSTR pszOffDefault, LPCTSTR pszOnDefault);
+    void FillSwitch(CComboBox& list, const wchar_t* offDefault, const wchar_t* onDefault);
 
     // Enables controls by their ids.
     template <class Ids>
-    void EnableControls(const Ids& ids, bool bEnable)
+    void EnableControls(const Ids& ids, bool enable)
     {
-        for (int nId : ids)
-            EnableControl(*GetDlgItem(nId), bEnable);
+        for (int id : ids)
+            EnableControl(*GetDlgItem(id), enable);
     }
 
     template <class Ids>
-    void ShowControls(const Ids& ids, bool bShow)
+    void ShowControls(const Ids& ids, bool show)
     {
-        for (int nId : ids)
-            ShowControl(*GetDlgItem(nId), bShow);
+        for (int id : ids)
+            ShowControl(*GetDlgItem(id), show);
     }
 
 private:
-    template <class Record, class Visitor>
-    static bool VisitRecord(Record* pRecord, Visitor& visit)
+    struct BoundField
     {
-        if (pRecord)
-            visit(*pRecord);
-        return pRecord != nullptr;
-    }
+        SchemeField field;
+        int* number;
+        CComboBox* list;
+        const RowView* view;
+    };
+
+    template <class Scheme>
+    void LoadBound(Scheme& scheme, IPrintScheme* factory);
+    template <class Scheme>
+    void SaveBound(Scheme& scheme) const;
+    static void ShowValue(const BoundField& bound, int value);
+    static std::optional<int> ShownValue(const BoundField& bound);
+
+    std::vector<BoundField> m_vecFields;
 };

@@ -1,26 +1,15 @@
 #include "dialogs/user/DlgPrintSchemeUser.h"
 
-#include "dialogs/base/HostContext.h"
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/MisreadText.h"
-#include "dialogs/base/Rows.h"
-#include "dialogs/user/CopyScheme.h"
+#include "dialogs/data/CopyScheme.h"
+#include "dialogs/data/MisreadText.h"
+#include "dialogs/data/SchemeNames.h"
 #include "dialogs/user/DlgPrintSchemeUserAddScheme.h"
-#include "dialogs/user/SourceSchemes.h"
 #include "frame/ModalRunner.h"
-#include "host/IHostData.h"
-#include "host/IPrintScheme.h"
-#include "host/IUserScheme.h"
 #include "resources/resource.h"
 
 namespace
 {
-constexpr LPCTSTR DIVIDER = L"----------------------";
-
-IUserSchemeList* UserSchemes()
-{
-    return GetHostContext().pData->GetUserSchemeList();
-}
+constexpr const wchar_t* DIVIDER = L"----------------------";
 } // namespace
 
 CDlgPrintSchemeUser::CDlgPrintSchemeUser() : CDlgSchemeEditor(IDD_SCHEME_USER, TRUE) {}
@@ -43,62 +32,48 @@ void CDlgPrintSchemeUser::AddPages()
 
 void CDlgPrintSchemeUser::OnAddScheme()
 {
-    const int nConfig = m_lstConfigs.GetCurSel();
+    const int config = m_lstConfigs.GetCurSel();
     if (!SelectedConfig())
         return;
-    CDlgPrintSchemeUserAddScheme dialog(nConfig, SelectedSchemeId());
+    CDlgPrintSchemeUserAddScheme dialog(config, SelectedSchemeId());
     if (RunModal(&dialog, L"Quorvane.dll") != IDOK)
         return;
-    IUserSchemeList* pList = UserSchemes();
-    IUserScheme* pScheme = pList ? pList->AddScheme() : nullptr;
-    if (!pScheme)
+    const AddedScheme<IUserScheme> added = AddUserScheme();
+    if (!added.scheme)
         return;
-    CopySchemeInto(*pScheme, dialog.m_nSource);
-    SetHostName(*pScheme, dialog.m_strName);
-    const int nNewId = FIRST_USER_SCHEME + static_cast<int>(pList->GetCount()) - 1;
-    const int nRow = AddSchemeRow(HostText(pScheme->GetName()), nNewId);
-    if (nRow < 0)
-        pList->RemoveAt(pList->GetCount() - 1);
-    else
-        SelectAddedRow(nRow);
+    CopySchemeInto(*added.scheme, dialog.m_nSource);
+    SetHostName(*added.scheme, dialog.m_strName);
+    ShowAddedScheme(HostText(added.scheme->GetName()), added.id);
 }
 
-// Names stand unconverted in this list, as operators know them, until a scheme is added.
+// Names stand unconverted in this list, as required, until a scheme is added.
 void CDlgPrintSchemeUser::FillSchemeList()
 {
-    const int nConfig = m_lstConfigs.GetCurSel();
+    const int config = m_lstConfigs.GetCurSel();
     Refill(m_lstSchemes, [&] {
-        if (nConfig < 0)
+        if (config < 0)
             return;
-        AddPresets(nConfig);
+        ListPresets(config);
         if (m_lstSchemes.GetCount() > 0)
-            AddSchemeRow(DIVIDER, NO_SCHEME);
-        AddUserSchemes(nConfig);
+            AddRow(m_lstSchemes, DIVIDER, NO_SCHEME);
+        ListUserSchemes(config);
         EnableControl(m_btnAdd, m_lstSchemes.GetCount() > 0);
     });
-    if (nConfig >= 0)
+    if (config >= 0)
         SelectScheme(true);
 }
 
-void CDlgPrintSchemeUser::AddPresets(int nConfig)
+void CDlgPrintSchemeUser::ListPresets(int config)
 {
-    const CString strPreset = GetLanguageText(L"PRESET", L"预设");
-    ForEachPreset(nConfig, [&](IPrintScheme& scheme, int nSchemeId) {
-        AddSchemeRow(PresetText(scheme.GetName(), strPreset), nSchemeId);
+    const std::wstring word = GetLanguageText(L"PRESET", L"预设").GetString();
+    ForEachPresetOf(config, [&](IPrintScheme& scheme, int id) {
+        AddRow(m_lstSchemes, PresetText(scheme.GetName(), word).c_str(), id);
     });
 }
 
-void CDlgPrintSchemeUser::AddUserSchemes(int nConfig)
+void CDlgPrintSchemeUser::ListUserSchemes(int config)
 {
-    ForEachUserScheme(nConfig, [&](IUserScheme& scheme, int nSchemeId) {
-        AddSchemeRow(NarrowReadAsWide(scheme.GetName()).c_str(), nSchemeId);
+    ForEachUserSchemeOf(config, [&](IUserScheme& scheme, int id) {
+        AddRow(m_lstSchemes, NarrowReadAsWide(scheme.GetName()).c_str(), id);
     });
-}
-
-void CDlgPrintSchemeUser::RemoveFromHost(int nSchemeId)
-{
-    IUserSchemeList* pList = UserSchemes();
-    const auto nIndex = static_cast<std::uint32_t>(nSchemeId - FIRST_USER_SCHEME);
-    if (pList && pList->GetAt(nIndex))
-        pList->RemoveAt(nIndex);
 }

@@ -22,11 +22,10 @@ protected:
 
     void AddPages() override;
     void FillSchemeList() override;
-    void RemoveFromHost(int nSchemeId) override;
 
 private:
-    void AddPresets(int nConfig);
-    void AddUserSchemes(int nConfig);
+    void ListPresets(int config);
+    void ListUserSchemes(int config);
 
     CDlgPrintSchemeCmmn m_pageCommon;
     CDlgPrintSchemeElc m_pageEclosion;

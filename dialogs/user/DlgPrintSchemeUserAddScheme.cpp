@@ -1,12 +1,12 @@
 #include "dialogs/user/DlgPrintSchemeUserAddScheme.h"
 
-#include "dialogs/base/HostText.h"
-#include "dialogs/base/Rows.h"
-#include "dialogs/user/SourceSchemes.h"
+#include "dialogs/base/Controls.h"
+#include "dialogs/data/SchemeNames.h"
+#include "dialogs/data/Schemes.h"
 #include "resources/resource.h"
 
-CDlgPrintSchemeUserAddScheme::CDlgPrintSchemeUserAddScheme(int nConfigIndex, int nSource)
-    : CDialogEx(IDD_USER_ADD_SCHEME), m_nSource(nSource), m_nConfigIndex(static_cast<std::uint8_t>(nConfigIndex))
+CDlgPrintSchemeUserAddScheme::CDlgPrintSchemeUserAddScheme(int configIndex, int source)
+    : CDialogEx(IDD_USER_ADD_SCHEME), m_nSource(source), m_nConfigIndex(static_cast<std::uint8_t>(configIndex))
 {
 }
 
@@ -45,36 +45,26 @@ int CDlgPrintSchemeUserAddScheme::ApplyLanguage()
 void CDlgPrintSchemeUserAddScheme::OnOK()
 {
     UpdateData(TRUE);
-    m_nSource = static_cast<int>(m_cmbSource.GetItemData(m_cmbSource.GetCurSel()));
+    m_nSource = SelectedNumber(m_cmbSource);
     EndDialog(IDOK);
 }
 
-// Preset names stand unconverted, those of user schemes are converted.
+// Preset names stand unconverted, those of user schemes are converted: both as required.
 void CDlgPrintSchemeUserAddScheme::FillSources()
 {
-    const auto nConfig = static_cast<std::uint8_t>(m_nConfigIndex);
-    int nSelect = 0;
+    int selected = 0;
+    const auto addSource = [&](const std::wstring& text, int schemeId) {
+        const int row = AddRow(m_cmbSource, text.c_str(), schemeId);
+        if (row >= 0 && schemeId == m_nSource)
+            selected = row;
+    };
     Refill(m_cmbSource, [&] {
-        const CString strPreset = GetLanguageText(L"PRESET", L"预设");
-        ForEachPreset(nConfig, [&](IPrintScheme& scheme, int nSchemeId) {
-            AddSource(PresetText(scheme.GetName(), strPreset), nSchemeId, nSelect);
-        });
-        ForEachUserScheme(nConfig, [&](IUserScheme& scheme, int nSchemeId) {
-            AddSource(HostText(scheme.GetName()), nSchemeId, nSelect);
-        });
+        const std::wstring word = GetLanguageText(L"PRESET", L"预设").GetString();
+        ForEachPresetOf(m_nConfigIndex,
+                        [&](IPrintScheme& scheme, int id) { addSource(PresetText(scheme.GetName(), word), id); });
+        ForEachUserSchemeOf(m_nConfigIndex,
+                            [&](IUserScheme& scheme, int id) { addSource(HostText(scheme.GetName()), id); });
     });
-    m_cmbSource.SetCurSel(nSelect);
-    IUserSchemeList* pUserSchemes = GetHostContext().pData->GetUserSchemeList();
-    m_strName.Format(L"%s-%d", GetLanguageText(L"SCHEME", L"方案").GetString(),
-                     (pUserSchemes ? pUserSchemes->GetCount() : 0) + 1);
-}
-
-void CDlgPrintSchemeUserAddScheme::AddSource(LPCTSTR pszText, int nSchemeId, int& nSelect)
-{
-    const int nRow = m_cmbSource.AddString(pszText);
-    if (nRow < 0)
-        return;
-    m_cmbSource.SetItemData(nRow, static_cast<DWORD_PTR>(static_cast<INT_PTR>(nSchemeId)));
-    if (nSchemeId == m_nSource)
-        nSelect = nRow;
+    m_cmbSource.SetCurSel(selected);
+    m_strName = ProposedSchemeName(GetLanguageText(L"SCHEME", L"方案").GetString()).c_str();
 }

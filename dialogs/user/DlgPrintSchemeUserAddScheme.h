@@ -11,7 +11,7 @@ class CDlgPrintSchemeUserAddScheme : public CDialogEx, public CDlgBase
 {
 public:
     // The source is the scheme id to preselect; one that is not offered leaves the first one selected.
-    CDlgPrintSchemeUserAddScheme(int nConfigIndex, int nSource);
+    CDlgPrintSchemeUserAddScheme(int configIndex, int source);
 
     int ApplyLanguage() override;
 
@@ -25,7 +25,6 @@ protected:
 
 private:
     void FillSources();
-    void AddSource(LPCTSTR pszText, int nSchemeId, int& nSelect);
 
     std::uint8_t m_nConfigIndex; // as wide as schemes store it
     CComboBox m_cmbSource;

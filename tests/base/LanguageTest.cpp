@@ -1,4 +1,4 @@
-#include "dialogs/base/HostContext.h"
+#include "dialogs/base/Language.h"
 
 #include "tests/support/BesideProgram.h"
 #include "tests/support/TempFolder.h"
@@ -15,15 +15,14 @@ std::wstring SettingsFile()
     return BesideProgram(L"Project.ini");
 }
 
-class HostContextTest : public testing::Test
+class LanguageTest : public testing::Test
 {
 protected:
-    HostContextTest() { RemoveSettings(); }
+    LanguageTest() { RemoveSettings(); }
 
-    ~HostContextTest() override
+    ~LanguageTest() override
     {
         RemoveSettings();
-        GetHostContext() = HostContext();
     }
 
     void WriteSettings(const char* bytes) const
@@ -41,14 +40,14 @@ protected:
     std::wstring PathFor(const wchar_t* folder) const
     {
         SetLanguageFile(folder, kFileName);
-        return GetHostContext().strLanguageFile;
+        return LanguageFilePath();
     }
 
     std::int32_t UnitFor(const char* settings) const
     {
         WriteSettings(settings);
         SetLanguageFile(L"", kFileName);
-        return GetHostContext().nMeasurementUnit;
+        return MeasurementUnit();
     }
 
     TempFolder m_folder;
@@ -58,37 +57,35 @@ private:
     void ForgetSettings() const { WritePrivateProfileStringW(nullptr, nullptr, nullptr, SettingsFile().c_str()); }
 };
 
-TEST_F(HostContextTest, StartsWithoutHostFileAndUnit)
+TEST_F(LanguageTest, StartsWithoutFileAndUnit)
 {
-    EXPECT_EQ(GetHostContext().pData, nullptr);
-    EXPECT_EQ(GetHostContext().pControl, nullptr);
-    EXPECT_EQ(GetHostContext().strLanguageFile, L"");
-    EXPECT_EQ(GetHostContext().nMeasurementUnit, 0);
+    EXPECT_EQ(LanguageFilePath(), L"");
+    EXPECT_EQ(MeasurementUnit(), 0);
     EXPECT_EQ(LookUpText(L"S", L"k", L"Cancel"), L"Cancel");
 }
 
-TEST_F(HostContextTest, TakesALanguageFolderWithAndWithoutTrailingBackslash)
+TEST_F(LanguageTest, TakesALanguageFolderWithAndWithoutTrailingBackslash)
 {
     EXPECT_EQ(PathFor(L"C:\\Lang"), L"C:\\Lang\\Quorvane.ini");
     EXPECT_EQ(PathFor(L"C:\\Lang\\"), L"C:\\Lang\\Quorvane.ini");
     EXPECT_EQ(PathFor(L"C:/Lang/"), L"C:/Lang/\\Quorvane.ini");
 }
 
-TEST_F(HostContextTest, TakesAnEmptyAndANullLanguageFolder)
+TEST_F(LanguageTest, TakesAnEmptyAndANullLanguageFolder)
 {
     EXPECT_EQ(PathFor(L""), L"\\Quorvane.ini");
     EXPECT_EQ(PathFor(nullptr), L"\\Quorvane.ini");
     EXPECT_EQ(LookUpText(L"S", L"k", L"Cancel"), L"Cancel");
 }
 
-TEST_F(HostContextTest, TakesALanguageFolderLongerThanAPathMayBe)
+TEST_F(LanguageTest, TakesALanguageFolderLongerThanAPathMayBe)
 {
     const std::wstring folder = L"C:\\" + std::wstring(40000, L'a');
     EXPECT_EQ(PathFor(folder.c_str()), folder + L"\\Quorvane.ini");
     EXPECT_EQ(LookUpText(L"S", L"k", L"Cancel"), L"Cancel");
 }
 
-TEST_F(HostContextTest, ReadsTextsFromTheLanguageFolder)
+TEST_F(LanguageTest, ReadsTextsFromTheLanguageFolder)
 {
     m_folder.Write(kFileName, "[DLG]\r\nOK=Fine\r\nTWO=one\\ntwo\r\n");
     for (const std::wstring& folder : {m_folder.Path(), m_folder.Path() + L"\\"})
@@ -101,7 +98,7 @@ TEST_F(HostContextTest, ReadsTextsFromTheLanguageFolder)
     }
 }
 
-TEST_F(HostContextTest, ReadsTheLanguageFileAfreshForEveryRun)
+TEST_F(LanguageTest, ReadsTheLanguageFileAfreshForEveryRun)
 {
     m_folder.Write(kFileName, "[DLG]\r\nOK=Fine\r\n");
     SetLanguageFile(m_folder.Path().c_str(), kFileName);
@@ -111,14 +108,14 @@ TEST_F(HostContextTest, ReadsTheLanguageFileAfreshForEveryRun)
     EXPECT_EQ(LookUpText(L"DLG", L"OK", L""), L"Good");
 }
 
-TEST_F(HostContextTest, CutsAValueBeforeItsLineBreaksAreMade)
+TEST_F(LanguageTest, CutsAValueBeforeItsLineBreaksAreMade)
 {
     m_folder.Write(kFileName, "[DLG]\r\nLONG=" + std::string(1022, 'x') + "\\nrest\r\n");
     SetLanguageFile(m_folder.Path().c_str(), kFileName);
     EXPECT_EQ(LookUpText(L"DLG", L"LONG", L""), std::wstring(1022, L'x') + L"\\");
 }
 
-TEST_F(HostContextTest, ReadsTheUnitOfTheProjectSettings)
+TEST_F(LanguageTest, ReadsTheUnitOfTheProjectSettings)
 {
     EXPECT_EQ(UnitFor("[UNIT]\r\nMEASUREMENT_UNIT=1\r\n"), 1);
     EXPECT_EQ(UnitFor("[UNIT]\r\nMEASUREMENT_UNIT=-2\r\n"), -2);
@@ -127,15 +124,15 @@ TEST_F(HostContextTest, ReadsTheUnitOfTheProjectSettings)
     EXPECT_EQ(UnitFor("[OTHER]\r\nMEASUREMENT_UNIT=1\r\n"), 0);
 }
 
-TEST_F(HostContextTest, ForgetsTheUnitWhenTheSettingsAreGone)
+TEST_F(LanguageTest, ForgetsTheUnitWhenTheSettingsAreGone)
 {
     ASSERT_EQ(UnitFor("[UNIT]\r\nMEASUREMENT_UNIT=1\r\n"), 1);
     RemoveSettings();
     SetLanguageFile(L"", kFileName);
-    EXPECT_EQ(GetHostContext().nMeasurementUnit, 0);
+    EXPECT_EQ(MeasurementUnit(), 0);
 }
 
-TEST_F(HostContextTest, TakesUnitWordsFromTheirOwnSectionWhenAUnitIsSet)
+TEST_F(LanguageTest, TakesUnitWordsFromTheirOwnSectionWhenAUnitIsSet)
 {
     m_folder.Write(kFileName,
                    "[DLG]\r\nIDC_STATIC=dialog\r\nOK=Fine\r\n[MeasureWords]\r\nIDC_STATIC=inch\r\nOK=no\r\n");
@@ -146,7 +143,7 @@ TEST_F(HostContextTest, TakesUnitWordsFromTheirOwnSectionWhenAUnitIsSet)
     EXPECT_EQ(LookUpText(L"DLG", L"OK", L""), L"Fine");
 }
 
-TEST_F(HostContextTest, TakesUnitWordsFromTheDialogsSectionWithoutAUnit)
+TEST_F(LanguageTest, TakesUnitWordsFromTheDialogsSectionWithoutAUnit)
 {
     m_folder.Write(kFileName, "[DLG]\r\nIDC_STATIC=dialog\r\n[MeasureWords]\r\nIDC_STATIC=inch\r\n");
     SetLanguageFile(m_folder.Path().c_str(), kFileName);

@@ -1,4 +1,4 @@
-#include "dialogs/scheme/PendingDeletions.h"
+#include "dialogs/data/PendingDeletions.h"
 
 #include <algorithm>
 #include <functional>

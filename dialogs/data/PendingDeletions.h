@@ -6,7 +6,7 @@
 class CPendingDeletions
 {
 public:
-    void Add(int nSchemeId) { m_vecIds.push_back(nSchemeId); }
+    void Add(int schemeId) { m_vecIds.push_back(schemeId); }
 
     // Each id once, the highest first: removing it moves none of the others.
     std::vector<int> InRemovalOrder() const;
