@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
 # Sets up what is missing, builds, and measures the editors under Wine against their floor. See usage.
-. "$(dirname "$0")/tools/common.sh"
-. "$project/tools/screen.sh"
-. "$project/tools/x86-root.sh"
+. "$(dirname "$0")/tools/lib/common.sh"
+. "$project/tools/lib/screen.sh"
+. "$project/tools/lib/x86-root.sh"
 
 usage() {
     cat <<'TEXT'
@@ -51,9 +51,9 @@ measure() {
     start_screen
     trap stop_screen EXIT
     if [ "$arch" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-bench.sh x86 "$rounds" "$only"
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-bench.sh x86 "$rounds" "$only"
     else
-        "$project/tools/run-bench.sh" "$arch" "$rounds" "$only"
+        "$project/tools/lib/run-bench.sh" "$arch" "$rounds" "$only"
     fi
     stop_screen
     trap - EXIT

@@ -1,10 +1,10 @@
 #!/usr/bin/env bash
 # Sets up what is missing, builds the x64 library and shows it in the reference host. See usage.
-. "$(dirname "$0")/tools/common.sh"
-. "$project/tools/screen.sh"
-. "$project/tools/wine.sh"
-. "$project/tools/operator.sh"
-. "$project/tools/demo-roads.sh"
+. "$(dirname "$0")/tools/lib/common.sh"
+. "$project/tools/lib/screen.sh"
+. "$project/tools/lib/wine.sh"
+. "$project/tools/demo/operator.sh"
+. "$project/tools/demo/demo-roads.sh"
 
 usage() {
     cat <<'TEXT'
@@ -46,7 +46,7 @@ start_host() {
     host_pid=$!
 }
 
-changes() { jq -n -r --slurpfile before "$before" --slurpfile after "$machine" -f "$project/tools/changes.jq"; }
+changes() { jq -n -r --slurpfile before "$before" --slurpfile after "$machine" -f "$project/tools/demo/changes.jq"; }
 
 report_changes() {
     say "Changed in the machine file:"

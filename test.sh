@@ -1,9 +1,9 @@
 #!/usr/bin/env bash
 # Sets up what is missing, builds, and runs every test. See usage.
-. "$(dirname "$0")/tools/common.sh"
-. "$project/tools/screen.sh"
-. "$project/tools/x86-root.sh"
-. "$project/tools/report.sh"
+. "$(dirname "$0")/tools/lib/common.sh"
+. "$project/tools/lib/screen.sh"
+. "$project/tools/lib/x86-root.sh"
+. "$project/tools/lib/report.sh"
 
 usage() {
     cat <<'TEXT'
@@ -78,15 +78,15 @@ run_arch() {
     rm -rf "$build/$1/results"
     mkdir -p "$build/$1/results"
     if [ "$1" = native-asan ]; then
-        "$project/tools/run-suite.sh" "$1" "$filter" "$seed" "$long"
+        "$project/tools/lib/run-suite.sh" "$1" "$filter" "$seed" "$long"
         return
     fi
     start_screen
     trap stop_screen EXIT
     if [ "$1" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/run-suite.sh x86 "$filter" "$seed" "$long"
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-suite.sh x86 "$filter" "$seed" "$long"
     else
-        "$project/tools/run-suite.sh" "$1" "$filter" "$seed" "$long"
+        "$project/tools/lib/run-suite.sh" "$1" "$filter" "$seed" "$long"
     fi
 }
 
@@ -109,12 +109,12 @@ skip_x86() {
 
 count_checks() {
     local arch
-    count_check "format of the sources" "$project/tools/check-format.sh"
-    count_check "keys of the language files" "$project/tools/check-language-keys.sh"
+    count_check "format of the sources" "$project/tools/checks/check-format.sh"
+    count_check "keys of the language files" "$project/tools/checks/check-language-keys.sh"
     for arch in "${arches[@]}"; do
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
-        count_check "second build of Quorvane.dll for $arch" "$project/tools/check-same-build.sh" "$arch"
+        count_check "second build of Quorvane.dll for $arch" "$project/tools/checks/check-same-build.sh" "$arch"
     done
 }
 

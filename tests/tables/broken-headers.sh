@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# broken-headers.sh ARCH: tools/check-tables.sh has to notice every kind of change that breaks a binary, and to name
-# the interface and the position. Each change is made in a copy of the headers.
-. "$(dirname "$0")/../../tools/common.sh"
+# broken-headers.sh ARCH: tools/checks/check-tables.sh has to notice every kind of change that breaks a binary, and to
+# name the interface and the position. Each change is made in a copy of the headers.
+. "$(dirname "$0")/../../tools/lib/common.sh"
 
 arch=$1
 folder=$(mktemp -d)
@@ -21,7 +21,7 @@ refused() {
     cp -r "$project/host" "$folder"
     sed -i -z -E "$script" "$header"
     ! cmp -s "$header" "$project/host/${header##*/}" || die "$change: the header has not changed"
-    if said=$("$project/tools/check-tables.sh" "$arch" "$folder" 2>&1); then
+    if said=$("$project/tools/checks/check-tables.sh" "$arch" "$folder" 2>&1); then
         fail "$change was not noticed" ""
         return
     fi

@@ -3,7 +3,7 @@
 # host/tables.txt: GCC, which builds the library, and clang for Microsoft's conventions, as a host's compiler does it.
 # FOLDER has the headers in its host/ (default: this project's). With --write, host/tables.txt is written anew from
 # what clang says; only a new operation at the end of a table is a reason for that.
-. "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/../lib/common.sh"
 
 arch=$1
 shift
@@ -40,7 +40,7 @@ make_source() {
 # clang_tables: "INTERFACE NUMBER RESULT NAME(ARGUMENTS)"
 clang_tables() {
     clang++ "--target=${target_of[$arch]}" -std=c++17 -ffreestanding -fno-rtti -nostdinc++ \
-        -I"$project/tools/freestanding" -I"$work" -c -emit-llvm -o /dev/null \
+        -I"$project/tools/checks/freestanding" -I"$work" -c -emit-llvm -o /dev/null \
         -Xclang -fdump-vtable-layouts "$work/tables.cpp" >"$work/clang.dump" 2>&1 ||
         die "$(grep -m 5 error "$work/clang.dump")"
     sed -n '/^VFTable for /,/^$/p' "$work/clang.dump" |

@@ -2,7 +2,7 @@
 # run-bench.sh ARCH ROUNDS ONLY: measures a build under Wine, on the current DISPLAY; ONLY may be empty. It leaves the
 # tables and all figures in build/bench. Runs on this system and inside the i386 system alike.
 . "$(dirname "$0")/common.sh"
-. "$project/tools/wine.sh"
+. "$project/tools/lib/wine.sh"
 
 arch=$1 rounds=$2 only=$3
 # Far beyond what it takes: only a run that hangs gets there.

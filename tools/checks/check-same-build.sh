@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # check-same-build.sh PRESET: builds the DLL once more, from a copy of the sources in another folder, and compares it
 # with the one in build/PRESET: the same to the byte.
-. "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/../lib/common.sh"
 
 preset=$1
 again=$build/again/$preset

@@ -3,7 +3,7 @@
 # against the form that the system reads. A source's keys belong to the section that it hands to InitLanguage or to the
 # editors' base; one that hands none has the section that most of its folder hand. The base's own keys belong to every
 # editor's section. A key that is made by a format ("ECL%d_ID") stands for all keys of its form.
-. "$(dirname "$0")/common.sh"
+. "$(dirname "$0")/../lib/common.sh"
 
 cd "$project"
 shopt -s nullglob

@@ -29,7 +29,7 @@ fresh_prefix() {
 # provide_pristine_prefix FOLDER
 provide_pristine_prefix() {
     local stamp
-    stamp="$(wine --version) $(cat "$project/tools/wine.reg" "$project/tools/wine.sh" | cksum)"
+    stamp="$(wine --version) $(cat "$project/tools/lib/wine.reg" "$project/tools/lib/wine.sh" | cksum)"
     [ "$(cat "$1.stamp" 2>/dev/null)" != "$stamp" ] || return 0
     make_pristine_prefix "$1"
     printf '%s\n' "$stamp" >"$1.stamp"
@@ -47,7 +47,7 @@ make_pristine_prefix() {
 
 # take_settings FILE
 take_settings() {
-    (cd "$project/tools" && timeout -k 5 60 wine regedit /S "$1" 2>/dev/null) || die "Wine did not take $1"
+    (cd "$project/tools/lib" && timeout -k 5 60 wine regedit /S "$1" 2>/dev/null) || die "Wine did not take $1"
 }
 
 # end_wine: ends what still runs in the current prefix.

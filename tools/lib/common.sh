@@ -3,7 +3,7 @@
 
 set -euo pipefail
 
-project=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+project=$(cd "$(dirname "${BASH_SOURCE[0]}")/../.." && pwd)
 build=$project/build
 export LANG=C.UTF-8
 

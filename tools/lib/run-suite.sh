@@ -3,7 +3,7 @@
 # ARCH is native-asan; SEED and LONG may be empty. For each it leaves NAME.log, NAME.xml and NAME.status (its exit
 # status) in build/ARCH/results. Runs on this system and inside the i386 system alike.
 . "$(dirname "$0")/common.sh"
-. "$project/tools/wine.sh"
+. "$project/tools/lib/wine.sh"
 
 arch=$1 filter=$2 seed=$3 long=$4
 results=$build/$arch/results
