@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-/// The set-up that the machine uses now: what decides which channel set-ups fit and which ink groups have an ink cut.
-/// Read only.
+/// The set-up that the machine uses now. It decides which channel set-ups are offered and which ink groups have an ink
+/// cut. Read only.
 class IActiveSetup
 {
 public:
@@ -12,7 +12,7 @@ public:
     virtual void Reserved2() {} // 2
     virtual void Reserved3() {} // 3
 
-    /// Id of the set-up, passed to IChannelSetup::FindSetup.
+    /// Id of the set-up. The library passes it to IChannelSetup::FindSetup.
     virtual std::uint32_t GetId() = 0; // 4
 
     virtual void Reserved5() {}  // 5

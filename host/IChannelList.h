@@ -14,7 +14,7 @@ public:
     /// Number of set-ups; 0 for none.
     virtual std::uint32_t GetCount() = 0; // 2
 
-    /// The set-up at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none; it is not offered.
+    /// The set-up at an index from 0 to GetCount() - 1, or null for none, which is not offered. Owned by the host.
     virtual IChannelSetup* GetAt(std::uint32_t index) = 0; // 3
 
 protected:

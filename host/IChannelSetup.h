@@ -13,8 +13,8 @@ public:
     virtual void Reserved4() {} // 4
 
     /// Name of the set-up: narrow text in the thread's ANSI code page, zero terminated. The host owns it; it stays
-    /// valid at least until the next call on this object. Null counts as no name. Shown through the language file, with
-    /// the name as the key.
+    /// valid at least until the next call on this object. Null counts as no name. The editors show the text that the
+    /// language file has under this name as a key, or else the name.
     virtual const char* GetName() = 0; // 5
 
     virtual void Reserved6() {}  // 6
@@ -26,8 +26,8 @@ public:
     virtual void Reserved12() {} // 12
     virtual void Reserved13() {} // 13
 
-    /// Whether the set-up fits a machine set-up: the id is IActiveSetup::GetId of the machine's active one. Any value
-    /// that is not negative offers the set-up; a negative one hides it.
+    /// Tells whether this set-up fits the machine set-up with an id (IActiveSetup::GetId). Return a negative value to
+    /// hide the set-up, any other to offer it.
     virtual std::int32_t FindSetup(std::uint32_t id) = 0; // 14
 
 protected:

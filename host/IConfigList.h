@@ -4,12 +4,12 @@
 
 class IPrintConfig;
 
-/// The print configurations in the host's order. A configuration's index in this list is what schemes store
-/// (SetConfigIndex, 8 bits), so a machine has room for 256.
+/// The print configurations in the host's order. Schemes store the index of their configuration in 8 bits
+/// (SetConfigIndex), so only the first 256 configurations can have schemes.
 ///
-/// Order of calls: read by GetCount and GetAt; a new configuration comes by IHostData::CreateConfig, its setters,
-/// AddConfig, IHostData::DestroyConfig. After RemoveAt the library itself removes the schemes whose configuration index
-/// is the removed one; it does not renumber those that refer to later configurations.
+/// Order of calls: to add a configuration, the library calls IHostData::CreateConfig, the setters of the new object,
+/// AddConfig and IHostData::DestroyConfig. After RemoveAt it removes the schemes that have the removed index from both
+/// scheme lists. It does not renumber the schemes of later configurations.
 class IConfigList
 {
 public:
@@ -31,20 +31,19 @@ public:
     /// Number of configurations; 0 for none.
     virtual std::uint32_t GetCount() = 0; // 14
 
-    /// The configuration at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none; its row is
-    /// kept on the screen and does nothing. Valid until RemoveAt of the same index.
+    /// The configuration at an index from 0 to GetCount() - 1, or null for none. Owned by the host, valid until
+    /// RemoveAt of the same index. A null configuration keeps its row in the editor's list, and the row does nothing.
     virtual IPrintConfig* GetAt(std::uint32_t index) = 0; // 15
 
     virtual void Reserved16() {} // 16
     virtual void Reserved17() {} // 17
 
-    /// Appends a copy of source at the end. The source stays the library's and is destroyed right after; keep no
-    /// pointer to it. Only its own fields are set; print modes are the host's to provide, as defaults or none. Returns
-    /// non-zero when it was added (one byte is read); 0 refuses it, and the editor then shows no new row.
+    /// Appends a copy of source. The library destroys source right after the call, so keep no pointer to it. The
+    /// library has set the fields of source but no print modes; give the copy default modes or none. Returns non-zero
+    /// if the configuration was added. 0 refuses it: the editor then shows no new row. One byte is read.
     virtual std::uint8_t AddConfig(IPrintConfig* source) = 0; // 18
 
-    /// Removes the configuration at an index with its print modes; later ones move down by one.
-    /// The index is below GetCount().
+    /// Removes the configuration at an index below GetCount(), with its print modes. Later ones move down by one.
     virtual void RemoveAt(std::uint32_t index) = 0; // 19
 
 protected:

@@ -4,7 +4,7 @@
 
 class IEclosionMode;
 
-/// A custom feathering definition: a range and up to three modes that alternate along the edge.
+/// A custom eclosion (feathering) definition: a range and up to three modes.
 class ICustomEclosion
 {
 public:
@@ -13,22 +13,22 @@ public:
     virtual void Reserved2() {} // 2
     virtual void Reserved3() {} // 3
 
-    /// Index of the mode that the dialog shows first.
+    /// Index of the mode that the dialog shows when it opens.
     virtual std::int32_t GetCurrentMode() = 0; // 4
 
-    /// Remembers the mode that is shown; from 0 to GetModeCount() - 1.
+    /// Stores the index of the mode that is shown, from 0 to GetModeCount() - 1.
     virtual void SetCurrentMode(std::int32_t index) = 0; // 5
 
     /// Non-zero marks a protected definition. One byte is read.
     virtual std::uint8_t IsLocked() = 0; // 6
 
-    /// 1 protects the definition, 0 frees it.
+    /// 1 protects the definition, 0 removes the protection.
     virtual void SetLocked(std::int32_t locked) = 0; // 7
 
-    /// Feathering range, 0 to 200, in the host's unit.
+    /// Eclosion range, 0 to 200, in the host's unit.
     virtual std::int32_t GetRange() = 0; // 8
 
-    /// See GetRange. Written while the operator moves the slider.
+    /// See GetRange. Called while the operator moves the slider.
     virtual void SetRange(std::int32_t range) = 0; // 9
 
     /// Number of modes; the dialog keeps it at 3 or fewer.
@@ -37,10 +37,10 @@ public:
     /// Appends a mode without elements and returns it; null refuses. Owned by the host.
     virtual IEclosionMode* AddMode() = 0; // 11
 
-    /// The mode at an index. Owned by the host, valid until DeleteMode of it. Null where there is none.
+    /// The mode at an index, or null for none. Owned by the host, valid until DeleteMode of it.
     virtual IEclosionMode* GetMode(std::uint32_t index) = 0; // 12
 
-    /// Removes the mode at an index below GetModeCount(); later ones move down by one.
+    /// Removes the mode at an index below GetModeCount(). Later ones move down by one.
     virtual void DeleteMode(std::uint32_t index) = 0; // 13
 
 protected:

@@ -1,6 +1,6 @@
 #pragma once
 
-/// A way of processing the image data of a head. Read only; print modes refer to it by its index in its head.
+/// A way of processing the image data of a head. Print modes refer to it by its index in its head. Read only.
 class IDataMode
 {
 public:
@@ -11,8 +11,9 @@ public:
     virtual void Reserved4() {} // 4
 
     /// Name of the data processing mode: narrow text in the thread's ANSI code page, zero terminated. The host owns it;
-    /// it stays valid at least until the next call on this object. Null counts as no name. Modes of one head need
-    /// different names, none of them "No": a choice is found again by name, in any case of letters.
+    /// it stays valid at least until the next call on this object. Null counts as no name. The editor finds the
+    /// operator's choice by its name, ignoring case: give the modes of one head different names, and call none of them
+    /// "No".
     virtual const char* GetName() = 0; // 5
 
 protected:

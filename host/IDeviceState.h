@@ -23,8 +23,8 @@ public:
     virtual void Reserved14() {} // 14
     virtual void Reserved15() {} // 15
 
-    /// The set-up that the machine uses now, or null when there is none: materials and channel set-ups are then not
-    /// offered and no ink cut is shown. Owned by the host.
+    /// The set-up that the machine uses now, or null for none: the editors then offer no materials and no channel
+    /// set-ups and show no ink cut. Owned by the host.
     virtual IActiveSetup* GetActiveSetup() = 0; // 16
 
 protected:

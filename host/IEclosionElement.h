@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-/// An element of a feathering mode: a rectangle. Written while the operator moves the sliders.
+/// A rectangular element of an eclosion mode. The setters are called while the operator moves the sliders.
 class IEclosionElement
 {
 public:
@@ -11,13 +11,13 @@ public:
     virtual void Reserved2() {} // 2
     virtual void Reserved3() {} // 3
 
-    /// Width, 1 to 8, in the host's unit. Of the result one byte is read.
+    /// Width, 1 to 8, in the host's unit. One byte is read.
     virtual std::uint8_t GetWidth() = 0; // 4
 
     /// See GetWidth.
     virtual void SetWidth(std::int32_t width) = 0; // 5
 
-    /// Height, 1 to 8, in the host's unit. Of the result one byte is read.
+    /// Height, 1 to 8, in the host's unit. One byte is read.
     virtual std::uint8_t GetHeight() = 0; // 6
 
     /// See GetHeight.

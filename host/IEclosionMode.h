@@ -4,7 +4,7 @@
 
 class IEclosionElement;
 
-/// A mode of a custom feathering definition: up to two rectangular elements.
+/// A mode of a custom eclosion definition: up to two rectangular elements.
 class IEclosionMode
 {
 public:
@@ -19,10 +19,10 @@ public:
     /// Appends an element of the host's initial size and returns it; null refuses. Owned by the host.
     virtual IEclosionElement* AddElement() = 0; // 5
 
-    /// The element at an index. Owned by the host, valid until DeleteElement of it. Null where there is none.
+    /// The element at an index, or null for none. Owned by the host, valid until DeleteElement of it.
     virtual IEclosionElement* GetElement(std::uint32_t index) = 0; // 6
 
-    /// Removes the element at an index below GetElementCount(); later ones move down by one.
+    /// Removes the element at an index below GetElementCount(). Later ones move down by one.
     virtual void DeleteElement(std::uint32_t index) = 0; // 7
 
 protected:

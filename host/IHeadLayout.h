@@ -4,7 +4,7 @@
 
 class IDataMode;
 
-/// A print head in a layout, with the data processing modes that it can be driven in. Read only.
+/// A print head in a layout, with its data processing modes. Read only.
 class IHeadLayout
 {
 public:
@@ -28,13 +28,13 @@ public:
     virtual void Reserved8() {} // 8
     virtual void Reserved9() {} // 9
 
-    /// Number of data processing modes. 0 leaves the head out of the data page.
+    /// Number of data processing modes. The data page leaves out a head that has none.
     virtual std::uint32_t GetDataModeCount() = 0; // 10
 
     virtual void Reserved11() {} // 11
 
-    /// The data processing mode at an index from 0 to GetDataModeCount() - 1, or null, which is not offered. Index 0
-    /// stands for "none" and is not offered either. Owned by the host.
+    /// The data processing mode at an index from 0 to GetDataModeCount() - 1. Index 0 stands for "none". Index 0 and
+    /// null are not offered. Owned by the host.
     virtual IDataMode* GetDataMode(std::uint32_t index) = 0; // 12
 
 protected:

@@ -17,17 +17,17 @@ class IParamTable;
 class IPrintConfig;
 class IXResolutionList;
 
-/// The host's parameter database: the first of the two objects that a host passes to every editor operation, and the
-/// way to every other host object. It holds lists that the editors change (configurations, schemes, custom feathering)
-/// and machine data that they only read (layouts, heads, inks, channels, materials, tables).
+/// The host's parameter database, and the way to every other host object. A host passes one object of this interface to
+/// every editor operation. It holds lists that the editors change (configurations, schemes, custom eclosion
+/// definitions) and machine data that they only read (layouts, heads, inks, channels, materials, tables).
 ///
-/// Order of calls: none is prescribed. The editors ask afresh at every use, so an operation must be cheap and answer
-/// the same object for as long as the data stay the same. All calls come on the thread that called the editor
-/// operation, while it runs.
+/// Order of calls: any. The editors ask for an object each time they need it. So keep these operations cheap, and
+/// return the same object until the data changes. All calls are made on the thread that called the editor operation,
+/// while that operation runs.
 ///
-/// Every object is owned by the host and lives at least until the editor operation returns; the library frees none,
-/// save for the round trip CreateConfig to DestroyConfig. A null result means that the host has no such list: the
-/// editors then show an empty one and do nothing with it.
+/// The host owns every object. An object lives until the editor operation returns, or until the operator removes it.
+/// The library frees nothing of the host's; what CreateConfig made it returns to DestroyConfig. A null list counts as
+/// an empty one.
 class IHostData
 {
 public:
@@ -97,10 +97,10 @@ public:
     /// The print materials. May be null.
     virtual IMaterialList* GetMaterialList() = 0; // 39
 
-    /// The custom feathering definitions. May be null.
+    /// The custom eclosion definitions. May be null.
     virtual ICustomEclosionSet* GetCustomEclosionSet() = 0; // 40
 
-    /// The machine's present state. May be null; materials and channel set-ups are then not offered.
+    /// The machine's present state. May be null; the editors then offer no materials and no channel set-ups.
     virtual IDeviceState* GetDeviceState() = 0; // 41
 
     virtual void Reserved42() {} // 42
@@ -108,10 +108,10 @@ public:
     virtual void Reserved44() {} // 44
     virtual void Reserved45() {} // 45
 
-    /// A table of host options by id, or null when the host has no such table. The library asks for three:
-    /// - 1015: entry 0 is the number of waveforms, a 32-bit integer; below 1 offers only "unlimited";
-    /// - 2055: eclosion types, one entry per type; entry i non-zero offers type i;
-    /// - 2057: entry 0 non-zero offers custom eclosion as a feathering level.
+    /// A table of host options by id, or null if the host has no such table. The library asks for three:
+    /// - 1015: entry 0 is the number of waveforms, a 32-bit integer. Below 1, only "unlimited" is offered.
+    /// - 2055: eclosion types, one entry each. Type i is offered if entry i is not 0.
+    /// - 2057: the custom eclosion level is offered if entry 0 is not 0.
     virtual IParamTable* GetParamTable(std::uint32_t tableId) = 0; // 46
 
     virtual void Reserved47() {} // 47
@@ -128,9 +128,9 @@ public:
     virtual void Reserved58() {} // 58
     virtual void Reserved59() {} // 59
 
-    /// A fresh configuration that stands in no list, for the operator's "add configuration". The library fills it with
-    /// its setters, offers it to IConfigList::AddConfig and gives it back through DestroyConfig, whether it was taken
-    /// or not. It belongs to the library in between. Null ends the action silently.
+    /// Creates a configuration that is in no list, for the operator's "add configuration". The library fills it through
+    /// its setters, passes it to IConfigList::AddConfig and gives it back through DestroyConfig, whether AddConfig took
+    /// it or not. Null ends the action silently.
     virtual IPrintConfig* CreateConfig() = 0; // 60
 
     virtual void Reserved61() {} // 61
@@ -140,8 +140,8 @@ public:
     virtual void Reserved65() {} // 65
     virtual void Reserved66() {} // 66
 
-    /// Frees a configuration made by CreateConfig. Called exactly once for each one that was not null, before the
-    /// editor goes on. The pointer is never used again.
+    /// Frees a configuration of CreateConfig. Called exactly once for each one, before the editor goes on. The library
+    /// never uses the pointer again.
     virtual void DestroyConfig(IPrintConfig* config) = 0; // 67
 
 protected:

@@ -21,10 +21,10 @@ public:
 
     virtual void Reserved7() {} // 7
 
-    /// Appends the channels of a layout, in the order in which they are to be shown; the first twelve are. An unknown
-    /// layout appends nothing. The array is the library's: it is empty and has room reserved for 65536 channels. Append
-    /// by push_back and never beyond that room: growing would take memory from one run-time library that another gives
-    /// back. With Microsoft's iterator debugging the vector is larger: set _ITERATOR_DEBUG_LEVEL to 0. The channels
+    /// Appends the channels of a layout to the library's array, in the order in which they are to be shown. The first
+    /// twelve are shown. For an unknown layout, append nothing. The array is empty and has room for 65,536 channels:
+    /// append by push_back, and not beyond that room, because growing the array would mix the memory of two run-time
+    /// libraries. Microsoft's iterator debugging makes the vector larger; set _ITERATOR_DEBUG_LEVEL to 0. The channels
     /// stay the host's and must live until the editor operation returns.
     virtual void GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels) = 0; // 8
 

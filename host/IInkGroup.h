@@ -18,8 +18,8 @@ public:
     virtual void Reserved4() {} // 4
 
     /// Name of the group: narrow text in the thread's ANSI code page, zero terminated. The host owns it; it stays valid
-    /// at least until the next call on this object. Null counts as no name. Shown through the language file, with the
-    /// name as the key, where it labels an ink cut.
+    /// at least until the next call on this object. Null counts as no name. As the label of an ink cut, it is looked
+    /// up: the editors show the text that the language file has under this name as a key, or else the name.
     virtual const char* GetName() = 0; // 5
 
     virtual void Reserved6() {}  // 6
@@ -34,7 +34,7 @@ public:
 
     virtual void Reserved13() {} // 13
 
-    /// The ink channel at an index from 0 to GetChannelCount() - 1; null is passed over. Owned by the host.
+    /// The ink channel at an index from 0 to GetChannelCount() - 1, or null, which is skipped. Owned by the host.
     virtual IInkChannel* GetChannel(std::uint32_t index) = 0; // 14
 
 protected:

@@ -4,7 +4,7 @@
 
 class IInkGroup;
 
-/// The ink groups of the machine. Read only. Print modes address a group by its position, schemes by the colour index
+/// The ink groups of the machine. Read only. Print modes refer to a group by its position, schemes by the colour index
 /// of its id, and the active set-up by its id.
 class IInkGroupTable
 {
@@ -19,12 +19,12 @@ public:
 
     virtual void Reserved5() {} // 5
 
-    /// The group at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none.
+    /// The group at an index from 0 to GetCount() - 1, or null for none. Owned by the host.
     virtual IInkGroup* GetAt(std::uint32_t index) = 0; // 6
 
     virtual void Reserved7() {} // 7
 
-    /// The group with an id, or null when there is none. Owned by the host.
+    /// The group with an id, or null for none. Owned by the host.
     virtual IInkGroup* GetGroup(std::uint16_t groupId) = 0; // 8
 
     /// Colour index, 0 to 31, under which schemes keep the ink cut of the group with an id.

@@ -4,8 +4,7 @@
 
 class ILayout;
 
-/// The print-head layouts of the machine in the host's order. Read only; the order is the one in which they are
-/// offered.
+/// The print-head layouts of the machine, in the order in which they are offered. Read only.
 class ILayoutList
 {
 public:
@@ -17,7 +16,7 @@ public:
 
     virtual void Reserved3() {} // 3
 
-    /// The layout at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none.
+    /// The layout at an index from 0 to GetCount() - 1, or null for none. Owned by the host.
     virtual ILayout* GetAt(std::uint32_t index) = 0; // 4
 
 protected:

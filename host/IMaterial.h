@@ -10,7 +10,7 @@ public:
     virtual void Reserved1() {} // 1
     virtual void Reserved2() {} // 2
 
-    /// Id of the material, unique among materials. Schemes read 8 bits back, signed: use 0 to 127.
+    /// Id of the material, unique among materials. Schemes return it as 8 bits, signed: use 0 to 127.
     virtual std::uint16_t GetId() = 0; // 3
 
     virtual void Reserved4() {} // 4

@@ -4,7 +4,7 @@
 
 class IMaterial;
 
-/// The print materials in the host's order. Read only. Offered only while the machine has an active set-up.
+/// The print materials in the host's order. Read only. They are offered only while the machine has an active set-up.
 class IMaterialList
 {
 public:
@@ -37,7 +37,7 @@ public:
     /// Number of materials; 0 for none.
     virtual std::uint32_t GetCount() = 0; // 25
 
-    /// The material at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none.
+    /// The material at an index from 0 to GetCount() - 1, or null for none. Owned by the host.
     virtual IMaterial* GetAt(std::uint32_t index) = 0; // 26
 
 protected:

@@ -31,9 +31,9 @@ public:
     virtual void Reserved19() {} // 19
     virtual void Reserved20() {} // 20
 
-    /// Copies the entry at an index into the caller's buffer, which is aligned for a pointer, holds zeros and has room
-    /// for 256 bytes. The library reads the first 32 bits as a number: non-zero means available, or it is the option's
-    /// value. An index without an entry must leave the buffer as it is.
+    /// Copies the entry at an index into the caller's buffer. The buffer holds 256 bytes, all zero, and is aligned for
+    /// a pointer. The library reads the first 32 bits as a number: the value of the option, or non-zero for
+    /// "available". If there is no such entry, leave the buffer as it is.
     virtual void GetEntry(void* entry, std::uint32_t index) = 0; // 21
 
 protected:

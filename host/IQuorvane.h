@@ -5,30 +5,29 @@
 class IHostControl;
 class IHostData;
 
-/// The library's object: what NewInterface returns and ReleaseInterface takes back.
+/// The library's object. NewInterface creates it, ReleaseInterface destroys it.
 ///
-/// Order of calls: NewInterface once; then any of the three editor operations, any number of times, one at a time; then
-/// ReleaseInterface once. Each operation opens one modal dialog and returns when it is closed.
+/// Order of calls: NewInterface; then any of the three editor operations, as often as you like, but one at a time; then
+/// ReleaseInterface. Each editor operation opens one modal dialog and returns when the dialog is closed.
 ///
-/// Thread: the host's user-interface thread, for all of it. The host objects are called on the same thread, inside the
-/// editor operation, and never after it has returned; they must live until then.
+/// Thread: make every call on the host's user-interface thread. The library calls the host objects on that thread,
+/// while the editor operation runs and never afterwards. The host objects must live until the operation returns.
 ///
 /// languageDir, in all three operations: the folder of the language file "Quorvane.ini", with or without a trailing
-/// backslash. It is read during the call only. Where the file or a key is missing, the built-in text stands, often an
-/// empty one; that is no error.
+/// backslash. The string is read during the call only. A missing file or key is no error: the built-in text appears
+/// instead, which is often empty.
 ///
-/// No exception leaves an operation, and none may leave a host object that the library calls.
+/// No exception leaves an operation. The host's operations must not let one out either.
 class IQuorvane
 {
 public:
-    /// Stands where Microsoft's compilers put the deleting destructor, and behaves as one. flags: bit 0 frees the
-    /// memory. Returns the object's address. Hosts call ReleaseInterface instead.
+    /// The deleting destructor, in the position and form that Microsoft's compilers give it. If bit 0 of flags is set,
+    /// it frees the memory as well. Returns the object's address. ReleaseInterface calls it; hosts do not.
     virtual void* Destroy(std::uint32_t flags) = 0; // 0
 
-    /// Opens the print-mode editor: configurations and their print modes.
-    /// Returns 0 and shows nothing when data or control is null; 1 in every other case, whatever button closed the
-    /// dialog. What was edited shows in the host's own objects, and in IHostControl::SaveParameters(2) after "Save &
-    /// Quit".
+    /// Opens the print-mode editor: configurations and their print modes. Returns 0 and shows nothing if data or
+    /// control is null. Otherwise returns 1, whichever button closed the dialog. The edits are in the host's own
+    /// objects. "Save & Quit" also calls IHostControl::SaveParameters(2).
     virtual std::int32_t EditPrintModes(IHostData* data, IHostControl* control, const wchar_t* languageDir) = 0; // 1
 
     /// Opens the factory scheme editor. Arguments and results as in EditPrintModes; saves with kind 2.

@@ -1,6 +1,6 @@
 #pragma once
 
-/// A horizontal resolution on offer. Read only.
+/// A horizontal resolution that a print mode can have. Read only.
 class IXResolution
 {
 public:

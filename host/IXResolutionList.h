@@ -4,8 +4,8 @@
 
 class IXResolution;
 
-/// The horizontal resolutions that a print mode can choose from, in the host's order. Read only; print modes store the
-/// index.
+/// The horizontal resolutions that a print mode can have, in the host's order. Print modes store an index in this list.
+/// Read only.
 class IXResolutionList
 {
 public:
@@ -15,7 +15,7 @@ public:
     /// Number of resolutions; 0 for none.
     virtual std::uint32_t GetCount() = 0; // 2
 
-    /// The resolution at an index from 0 to GetCount() - 1. Owned by the host. Null where there is none.
+    /// The resolution at an index from 0 to GetCount() - 1, or null for none. Owned by the host.
     virtual IXResolution* GetAt(std::uint32_t index) = 0; // 3
 
 protected:

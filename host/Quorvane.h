@@ -1,22 +1,31 @@
 #pragma once
 
-/// The one header that a host includes: every interface, and the two functions that Quorvane.dll exports.
+/// The one header that a host includes. It brings in every interface and declares the two functions that Quorvane.dll
+/// exports.
 ///
-/// Order of use: load "Quorvane.dll", which must lie beside the host's executable under this name; look up NewInterface
-/// and ReleaseInterface by their plain names; call NewInterface; pass objects of your own, derived from IHostData and
-/// IHostControl, to the editor operations of IQuorvane; call ReleaseInterface. Leave the library loaded: each editor
-/// run raises its load count by one and does not lower it again.
+/// Order of use:
+/// 1. Load "Quorvane.dll". It must lie beside the host's executable under this name.
+/// 2. Look up NewInterface and ReleaseInterface by their plain names, and call NewInterface.
+/// 3. Pass objects of your own, derived from IHostData and IHostControl, to the editor operations of IQuorvane.
+/// 4. Call ReleaseInterface.
 ///
-/// Rules that hold for every interface, unless its own header says otherwise:
-/// - Objects and texts that a host returns stay the host's. Texts are narrow, in the thread's ANSI code page.
-/// - Texts and buffers that the library passes are its own and are valid during the call only.
-/// - A null object is "there is none": the editor ends the action at hand silently.
-/// - Small results are read in the width declared. A boolean result is one byte, non-zero for true; a boolean argument
-/// is
-///   a clean 0 or 1 in 32 bits.
+/// Leave the library loaded until the process ends. Its load count rises by one with each editor run, and with each
+/// dialog for a custom eclosion or a new user scheme that is opened during a run. The library never lowers it.
+///
+/// Rules for every interface, unless its own header says otherwise:
+/// - Objects and texts that a host returns stay the host's. Texts are narrow, in the thread's ANSI code page, zero
+///   terminated.
+/// - Texts and buffers that the library passes stay the library's and are valid during the call only.
+/// - A null object means that there is none. The editor then ends the current action silently.
+/// - The library reads a result of 8 or 16 bits in that width and ignores the rest of the register. A boolean result is
+///   one byte, non-zero for true. A boolean argument is 0 or 1 in 32 bits.
 /// - A setter takes effect at once. Cancel undoes nothing.
 /// - The number behind an operation is its position in the table of virtual operations. The library never calls the
-///   operations named Reserved; they keep later positions where they are. A host leaves them alone or overrides them.
+///   operations named Reserved; they keep the later positions in place. A host need not override them.
+///
+/// Eclosion is the feathering of swath edges, which hides the seam between two passes. It has a type (the pattern of
+/// the edge), a range (how far it reaches) and a level. The levels are named as in the dialogs and stored as 0 close
+/// (no feathering), 1 light, 2 normal, 3 depth, 4 custom and 5 super.
 
 #include "IQuorvane.h"
 
@@ -61,11 +70,12 @@
 
 extern "C"
 {
-    /// Makes a new object at every call. Returns null when there is no memory for it. The caller owns the object until
-    /// it hands it to ReleaseInterface; it never deletes it.
+    /// Creates an interface object on the library's heap, a new one at each call. Returns null when there is no memory
+    /// for it. Give the object back through ReleaseInterface; never delete it.
     IQuorvane* QUORVANE_CALL NewInterface();
 
-    /// Destroys an object of NewInterface. Null is ignored. Not to be called while one of its editors is open.
+    /// Destroys an object of NewInterface, by Destroy(1), and frees its memory. Null is ignored. Do not call it while
+    /// an editor of the object is open.
     void QUORVANE_CALL ReleaseInterface(IQuorvane* object);
 }
 
