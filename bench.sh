@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds, and measures the editors under Wine against their floor. See usage.
+# Installs what is missing, builds, and measures the editors under Wine against their baseline. See usage.
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
 . "$project/tools/lib/x86-root.sh"
@@ -7,13 +7,14 @@
 usage() {
     cat <<'TEXT'
 Usage: ./bench.sh [--arch x64|x86] [--only TEXT] [--rounds N]
-Sets up what is missing, builds, and measures the editors on x64 and x86 under Wine against a baseline: bare dialogs
-with the same windows and rows. Prints tables and leaves them in build/bench, with all figures as JSON.
-  --arch x64|x86   one architecture only
-  --only TEXT      only the editors' cases whose name contains the text
-  --rounds N       how often each case is measured (usually 15 times)
-  --help           this text
-Environment: QUORVANE_X86_ROOT names a folder to keep the i386 system in (default: build/x86-root).
+Installs the packages that are missing, builds, and measures the editors on x64 and x86 under Wine against a baseline:
+bare dialogs with the same windows and rows. Prints tables, and leaves them in build/bench with all figures as JSON.
+  --arch x64|x86     measure one architecture only
+  --only TEXT        measure only the editors' cases whose name contains the text
+  --rounds N         measure each case N times (default: 15)
+  --help             show this text
+Environment:
+  QUORVANE_X86_ROOT  the folder to keep the i386 system in (default: build/x86-root)
 TEXT
 }
 
@@ -45,7 +46,7 @@ install_packages() {
     install_missing "${packages[@]}"
 }
 
-# One after the other: two at once would measure each other.
+# One architecture at a time: two at once would slow each other down.
 measure() {
     local arch=$1
     start_screen

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds the x64 library and shows it in the reference host. See usage.
+# Installs what is missing, builds the x64 library and shows it in the reference host. See usage.
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
 . "$project/tools/lib/wine.sh"
@@ -9,10 +9,10 @@
 usage() {
     cat <<'TEXT'
 Usage: ./demo.sh [--headless]
-Sets up what is missing, builds, and opens the reference host on a sample machine.
-  --headless   no person needed: a scripted operator makes an edit in every editor with mouse and keyboard, on a
-               screen of its own, and leaves screenshots in build/demo (so it is without a reachable display, too)
-  --help       this text
+Installs the packages that are missing, builds, and opens the reference host on a sample machine.
+  --headless   have a scripted operator make an edit in every editor, with mouse and keyboard on a screen of its own,
+               and leave screenshots in build/demo. This is the default where no display can be reached.
+  --help       show this text
 TEXT
 }
 

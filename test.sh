@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Sets up what is missing, builds, and runs every test. See usage.
+# Installs what is missing, builds, and runs every test. See usage.
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
 . "$project/tools/lib/x86-root.sh"
@@ -8,15 +8,17 @@
 usage() {
     cat <<'TEXT'
 Usage: ./test.sh [--arch x64|x86|x64-checked|native-asan] [--filter PATTERN] [--seed N] [--long]
-Sets up what is missing, builds, and runs every test under Wine: on x64, on x86, and in a build for x64 in which memory
-faults and undefined behaviour end a test. What needs no window runs natively under the address sanitizer, too.
-  --arch ARCH        one of the four only
-  --filter PATTERN   only tests whose full name matches (a GoogleTest filter)
-  --seed N           seeded tests start from this seed (usually from 1; in a long run from one that is printed)
-  --long             seeded tests repeat themselves for hours
-  --help             this text
-Environment: QUORVANE_X86_ROOT names a folder to keep the i386 system in (default: build/x86-root);
-with CI=true a skipped test is a failure.
+Installs the packages that are missing, builds, and runs every test under Wine: on x64, on x86, and in an x64 build
+in which memory faults and undefined behaviour end the program. Tests that need no window also run natively under the
+address sanitizer.
+  --arch ARCH        run one of the four only
+  --filter PATTERN   run only tests whose full name matches (a GoogleTest filter)
+  --seed N           start seeded tests from this seed (default: 1; with --long a random one, which is printed)
+  --long             repeat seeded tests for hours
+  --help             show this text
+Environment:
+  QUORVANE_X86_ROOT  the folder to keep the i386 system in (default: build/x86-root)
+  CI=true            count a skipped test as a failure
 TEXT
 }
 
@@ -54,7 +56,7 @@ install_packages() {
 
 # The i386 system comes over the network while the compilers work.
 build_all() {
-    local arch preparing= targets
+    local arch preparing='' targets
     if tests_x86; then
         x86_prepare >"$build/x86-skipped" &
         preparing=$!
@@ -63,7 +65,7 @@ build_all() {
     fi
     for arch in "${arches[@]}"; do
         targets=(all)
-        # Not run here, but it must not rot.
+        # Built so that it keeps compiling; ./bench.sh runs it.
         [[ $arch != x64 && $arch != x86 ]] || targets+=(quorvane_bench)
         build_preset "$arch" "${targets[@]}"
     done

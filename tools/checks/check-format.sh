@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# check-format.sh [--mend]: holds every C++ source against .clang-format.
+# check-format.sh [--mend]: checks every C++ source against .clang-format. With --mend it reformats them.
 . "$(dirname "$0")/../lib/common.sh"
 
 cd "$project"

@@ -1,8 +1,9 @@
 #!/usr/bin/env bash
-# check-language-keys.sh: holds the keys that dialogs ask for against the language files, both ways, and the files
-# against the form that the system reads. A source's keys belong to the section that it hands to InitLanguage or to the
-# editors' base; one that hands none has the section that most of its folder hand. The base's own keys belong to every
-# editor's section. A key that is made by a format ("ECL%d_ID") stands for all keys of its form.
+# check-language-keys.sh: compares the keys that dialogs ask for with the language files, in both directions, and checks
+# that the files have the form that the system reads. The keys of a source belong to the section that it passes to
+# InitLanguage or to the base class of the editors; without one, to the section that most sources of its folder pass.
+# The keys of the base class belong to the section of every editor. A key made by a format ("ECL%d_ID") stands for all
+# keys of that form.
 . "$(dirname "$0")/../lib/common.sh"
 
 cd "$project"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
-# check-same-build.sh PRESET: builds the DLL once more, from a copy of the sources in another folder, and compares it
-# with the one in build/PRESET: the same to the byte.
+# check-same-build.sh PRESET: builds the DLL a second time, from a copy of the sources in another folder. It must be
+# equal to the one in build/PRESET, byte for byte.
 . "$(dirname "$0")/../lib/common.sh"
 
 preset=$1

@@ -1,8 +1,8 @@
 #!/usr/bin/env bash
-# check-tables.sh ARCH [--write] [FOLDER]: holds the tables that two compilers lay out for the interfaces against
-# host/tables.txt: GCC, which builds the library, and clang for Microsoft's conventions, as a host's compiler does it.
-# FOLDER has the headers in its host/ (default: this project's). With --write, host/tables.txt is written anew from
-# what clang says; only a new operation at the end of a table is a reason for that.
+# check-tables.sh ARCH [--write] [FOLDER]: compares host/tables.txt with the tables that two compilers lay out for the
+# interfaces: GCC, which builds the library, and clang with the conventions of Microsoft's compilers, which build hosts.
+# FOLDER has the headers in its host/ (default: this project). --write replaces host/tables.txt with what clang lays
+# out; do that only after adding an operation at the end of a table.
 . "$(dirname "$0")/../lib/common.sh"
 
 arch=$1

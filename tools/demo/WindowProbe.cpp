@@ -1,7 +1,7 @@
-// Prints the windows on the desktop for scripts that operate them from outside, front window first, children after
-// their parents, one line each (fields apart by tabs, UTF-8):
+// Prints the windows on the desktop for scripts that operate them from outside. One line per window in UTF-8, with
+// fields separated by tabs; front window first, children after their parents:
 //   window  ID  CLASS  STATE  LEFT TOP RIGHT BOTTOM  TEXT
-//   row  LIST-ID  INDEX  STATE  LEFT TOP RIGHT BOTTOM  TEXT      (of the list box above it, scrolled-out rows left out)
+//   row  LIST-ID  INDEX  STATE  LEFT TOP RIGHT BOTTOM  TEXT      (a row of the list box above it, unless scrolled out)
 // STATE: v or - (visible), e or - (enabled, with all its parents), s or - (row: selected, check box: checked,
 // window: in front).
 #include <cstdio>
@@ -12,7 +12,7 @@
 namespace
 {
 
-// A window of a hung program must not hang its observer.
+// A hung program must not hang this one.
 LRESULT Ask(HWND window, UINT message, WPARAM wParam = 0, LPARAM lParam = 0)
 {
     DWORD_PTR result = 0;

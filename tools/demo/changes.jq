@@ -1,5 +1,5 @@
-# What differs between two machine files ($before and $after), a line each. Objects with a name are known by it: their
-# places in a list move when one is added or removed.
+# Prints the differences between two machine files ($before and $after), one per line. Objects that have a name are
+# identified by it, because positions in a list shift when an object is added or removed.
 
 def place($index): . as $list | $list[$index] as $item
     | if ($item | type) == "object" and ($item | has("name")) then
@@ -15,7 +15,7 @@ def leaves($path):
 
 def table: [leaves([])] | from_entries;
 
-# The object that a leaf belongs to, if it is one with a name.
+# The object that a leaf belongs to, if that object has a name.
 def owner: capture("^(?<owner>.*\\])\\.[^\\]]*$").owner;
 
 def summary($leaves): . as $owner

@@ -1,7 +1,7 @@
 # shellcheck shell=bash
 # What the operator does in the editors: a tour of every page and dialog, and the main job in each. Sourced by demo.sh.
 
-# What the jobs must change in the machine file, and nothing else.
+# All that the jobs must change in the machine file.
 expected_changes='configurations.[Production 生产].modes.[Standard 6 pass].passCount: 6 -> 12
 configurations.[Production 生产].modes.[Standard 6 pass].smallDotCompensation.0: 0.25 -> 2.5
 factorySchemes.[1440X1440_Copy]: added (configIndex 4, speed 2, direction 3, lampLL 1)
@@ -14,7 +14,7 @@ userSchemes.[Light box 2]: added (configIndex 1, speed 0, direction 3, lampLL 1)
 userSchemes.[My banner]: removed
 userSchemes.[户外灯箱]: added (configIndex 1, speed 0, direction 3, lampLL 1)'
 
-# tour TAG: leaves a picture of everything, and the machine file as it was.
+# tour TAG: takes a picture of everything and changes nothing in the machine file.
 tour() {
     tour_print_modes "$1"
     tour_factory_schemes "$1"
@@ -22,7 +22,7 @@ tour() {
     shoot "host-$1"
 }
 
-# job: one piece of work in each editor, saved.
+# job: does one piece of work in each editor and saves it.
 job() {
     edit_print_mode
     edit_factory_schemes
@@ -80,7 +80,7 @@ tour_user_schemes() {
     close_editor IDCANCEL
 }
 
-# The user's own schemes stand below a divider; the first one's colour set-up does not fit this machine.
+# The user's own schemes are listed below a divider. The colour set-up of the first one does not fit this machine.
 first_own_row() { awk -F '\t' '$1 == "row" && $6 ~ /^-+$/ { print $3 + 1 }' "$windows"; }
 own_user_row() { echo $(($(first_own_row) + 1)); }
 
@@ -140,7 +140,7 @@ edit_user_schemes() {
     go_to_page lamps
     click Button IDC_CHECK_LPRINT_LLIGHT
     shoot user-edited
-    # A source is copied as the host has it: another selection stores what was changed.
+    # A source is copied as the host has it. Selecting another scheme stores what was changed.
     last=$(($(scheme_rows) - 1))
     select_row IDC_LIST_SCHEME 0
     select_row IDC_LIST_SCHEME "$last"
@@ -171,7 +171,7 @@ declare -A page_label=(
 )
 page_shown() { is_visible Static "${page_label[$1]}" || is_visible ComboBox "${page_label[$1]}"; }
 
-# shoot_scheme_pages EDITOR TAG PAGE...: the keys lead around, back to the first page.
+# shoot_scheme_pages EDITOR TAG PAGE...: steps through the pages by keys, back to the first one.
 shoot_scheme_pages() {
     local editor=$1 tag=$2 page
     shift 2
@@ -183,7 +183,7 @@ shoot_scheme_pages() {
     until_true "the $1 page" page_shown "$1"
 }
 
-# go_to_page PAGE: by the keys that lead around.
+# go_to_page PAGE: steps through the pages by keys.
 go_to_page() {
     local steps=0
     until look && page_shown "$1"; do
@@ -192,7 +192,7 @@ go_to_page() {
     done
 }
 
-# shoot_dialog CLASS NAME PICTURE: waits for a dialog over the editor that has such a control, and gives it up.
+# shoot_dialog CLASS NAME PICTURE: waits for a dialog over the editor that has such a control, and cancels it.
 shoot_dialog() {
     until_true "the dialog with $2" dialog_open "$1" "$2"
     shoot "$3"
@@ -201,7 +201,7 @@ shoot_dialog() {
 }
 
 dialog_open() { is_there "$1" "$2" && ! editor_open; }
-# All editors have it, and no dialog over them.
+# All editors have these controls, and no dialog over them does.
 editor_open() { is_there Button IDC_BTN_ADD_MODE && is_there ListBox IDC_LIST_CFG; }
 editor_closed() { ! editor_open; }
 

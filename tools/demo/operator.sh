@@ -1,15 +1,15 @@
 # shellcheck shell=bash
 # A scripted operator: real mouse and keyboard input through the X server to programs of a Wine virtual desktop.
-# Controls are named as CLASS NAME, NAME being that of a resource.h; what is looked for must be in reach, so a dialog
-# that a modal one disabled is never touched. Sourced, never run; needs build_bin and shots to be set.
+# Controls are given as CLASS NAME, where NAME stands in a resource.h. A control must be in reach (visible and enabled),
+# so a dialog that a modal one disabled is never touched. Source it; do not run it. Set build_bin and shots before.
 
 windows=$build/windows.tsv
 patience=60
 
-# look: takes a new list of all windows.
+# look: makes a new list of all windows.
 look() { (cd "$build_bin" && wine WindowProbe.exe | tr -d '\r') >"$windows"; }
 
-# until_true WHAT COMMAND...: looks again until the command is true, for as long as patience lasts.
+# until_true WHAT COMMAND...: looks again until the command is true; gives up after $patience seconds.
 until_true() {
     local what=$1 end=$((SECONDS + patience))
     shift
@@ -20,7 +20,7 @@ until_true() {
 
 give_up() {
     import -window root "$shots/gave-up.png" || true
-    die "waited $patience s in vain for: $1 (see $shots/gave-up.png and $windows)"
+    die "waited $patience s for: $1 (see $shots/gave-up.png and $windows)"
 }
 
 # id_of NAME
@@ -64,14 +64,14 @@ list_row_selected() { row_of ListBox "$(id_of "$1")" "$2" | grep -q '^ves'; }
 text_is() { [ "$(text_of "$1" "$2")" = "$3" ]; }
 is_there() { place_of "$@" >/dev/null; }
 is_gone() { ! is_there "$@"; }
-# is_visible CLASS NAME: disabled ones too.
+# is_visible CLASS NAME: also true for a disabled control.
 is_visible() {
     awk -F '\t' -v class="$1" -v id="$(id_of "$2")" '
         $1 == "window" && $2 == id && $3 == class && $4 ~ /^v/ { found = 1; exit }
         END { exit !found }
     ' "$windows"
 }
-# Every combo box gives its drop-down list this id.
+# The drop-down list of every combo box has this id.
 drop_down_id=1000
 drop_down_row() { row_of ComboLBox "$drop_down_id" "$1" >/dev/null; }
 
@@ -85,7 +85,7 @@ click() {
     click_at $(place_of "$1" "$2")
 }
 
-# click_row CLASS ID INDEX [BUTTON]: a row that the last look found.
+# click_row CLASS ID INDEX [BUTTON]: clicks a row that the last look found.
 click_row() {
     local row
     row=$(row_of "$1" "$2" "$3")
@@ -100,7 +100,7 @@ select_row() {
     until_true "row $2 of $1 to be selected" list_row_selected "$1" "$2"
 }
 
-# open_menu LIST-NAME INDEX: the context menu of a row.
+# open_menu LIST-NAME INDEX: opens the context menu of a row.
 open_menu() {
     until_true "row $2 of $1" list_row "$1" "$2"
     click_row ListBox "$(id_of "$1")" "$2" 3
@@ -114,7 +114,7 @@ open_drop_down() {
     until_true "the drop-down list of $1" drop_down_row 0
 }
 
-# choose COMBO-NAME INDEX: by the drop-down list.
+# choose COMBO-NAME INDEX: picks a row of the drop-down list.
 choose() {
     open_drop_down "$1"
     until_true "row $2 of the drop-down list of $1" drop_down_row "$2"
@@ -123,8 +123,8 @@ choose() {
 }
 drop_down_closed() { ! drop_down_row 0; }
 
-# type_into EDIT-NAME TEXT: over what stands there. A character that the keyboard lacks is put on a spare key for the
-# moment; a busy program may hear of that too late and miss it, so another attempt goes more slowly.
+# type_into EDIT-NAME TEXT: replaces the text. xdotool puts a character that the keyboard lacks on a spare key for a
+# moment. A busy program may notice that too late and miss the character, so each new attempt types more slowly.
 type_into() {
     local delay
     click Edit "$1"
@@ -136,13 +136,13 @@ type_into() {
     until_true "$2 in $1" text_is Edit "$1" "$2"
 }
 
-# enter_text TEXT DELAY: in milliseconds.
+# enter_text TEXT DELAY: with a delay in milliseconds between keys.
 enter_text() {
     xdotool key --delay 20 ctrl+Home ctrl+shift+End
     xdotool type --delay "$2" "$1"
 }
 
-# soon COMMAND...: false where it is not true within some looks.
+# soon COMMAND...: false if the command does not become true within 20 looks.
 soon() {
     local looks
     for ((looks = 0; looks < 20; ++looks)); do
@@ -153,7 +153,7 @@ soon() {
 
 press_key() { xdotool key --delay 20 "$1"; }
 
-# shoot NAME: the front dialog, as soon as two pictures in a row are the same.
+# shoot NAME: takes a picture of the front dialog, as soon as two pictures in a row are equal.
 shoot() {
     local picture=$shots/$1.png previous='' current=none end=$((SECONDS + patience)) place
     look

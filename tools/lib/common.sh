@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# What every script here shares; sourced, never run.
+# What all scripts share. Source it; do not run it.
 
 set -euo pipefail
 
@@ -22,26 +22,26 @@ as_root() {
     fi
 }
 
-# become_root_possible: true if as_root can work.
+# become_root_possible: whether as_root can work.
 become_root_possible() { [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null; }
 
 is_installed() { dpkg-query --show --showformat '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed; }
 
-# install_missing PACKAGE...: silent when all are there.
+# install_missing PACKAGE...: prints nothing when all are installed.
 install_missing() {
     local package missing=()
     for package; do
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    become_root_possible || die "these packages are missing, and neither root nor sudo is to be had: ${missing[*]}"
+    become_root_possible || die "these packages are missing, and neither root nor sudo is available: ${missing[*]}"
     say "Installing: ${missing[*]}"
     as_root apt-get update -q >"$build/apt.log" 2>&1 || die "apt-get update failed, see $build/apt.log"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \
         >>"$build/apt.log" 2>&1 || die "apt-get install failed, see $build/apt.log"
 }
 
-# Packages that building, running and looking at the x64 library take.
+# What is needed to build, run and look at the x64 library.
 x64_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest nlohmann-json3-dev
     wine wine64 fonts-wine fonts-wqy-microhei libxrender1 libxcursor1 libxi6 libxrandr2 xvfb)
 

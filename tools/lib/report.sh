@@ -1,9 +1,9 @@
 # shellcheck shell=bash
-# Sums up what run-suite.sh left behind; sourced, never run.
+# Sums up the results of run-suite.sh. Source it; do not run it.
 
 passed=0 failed=0 skipped=0
 
-# count_check NAME COMMAND...: a check that is no test program counts as one test.
+# count_check NAME COMMAND...: counts a check that is not a test program as one test.
 count_check() {
     local name=$1 text
     shift
@@ -50,7 +50,7 @@ count_finished() {
     passed=$((passed + run - bad - left)) failed=$((failed + bad)) skipped=$((skipped + left))
 }
 
-# count_broken_off TITLE LOG STATUS: a program that wrote no result crashed or hung.
+# count_broken_off TITLE LOG STATUS: for a program that crashed or hung, so that it wrote no result.
 count_broken_off() {
     local good bad last
     good=$(grep -c '^\[       OK \]' "$2" || true)
@@ -60,7 +60,7 @@ count_broken_off() {
     passed=$((passed + good)) failed=$((failed + bad + 1))
 }
 
-# print_failures TITLE LOG: what each test printed that failed, was skipped, or never ended.
+# print_failures TITLE LOG: prints the output of each test that failed, was skipped, or never ended.
 print_failures() {
     awk -v title="$1" '
         /^\[ RUN      \]/ { text = ""; open = 1 }

@@ -1,11 +1,11 @@
 #!/usr/bin/env bash
-# run-bench.sh ARCH ROUNDS ONLY: measures a build under Wine, on the current DISPLAY; ONLY may be empty. It leaves the
-# tables and all figures in build/bench. Runs on this system and inside the i386 system alike.
+# run-bench.sh ARCH ROUNDS ONLY: measures a build under Wine, on the current DISPLAY. ONLY may be empty. Leaves the
+# tables and all figures in build/bench. Runs on this system and inside the i386 system.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/lib/wine.sh"
 
 arch=$1 rounds=$2 only=$3
-# Far beyond what it takes: only a run that hangs gets there.
+# In seconds. Only a run that hangs takes that long.
 limit=1800
 
 fresh_prefix "$arch" "bench-$arch" wine-tests.reg

@@ -1,13 +1,13 @@
 #!/usr/bin/env bash
-# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY, or natively if
-# ARCH is native-asan; SEED and LONG may be empty. For each it leaves NAME.log, NAME.xml and NAME.status (its exit
-# status) in build/ARCH/results. Runs on this system and inside the i386 system alike.
+# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY, or natively
+# if ARCH is native-asan. SEED and LONG may be empty. For each program it leaves NAME.log, NAME.xml and NAME.status (the
+# exit status) in build/ARCH/results. Runs on this system and inside the i386 system.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/lib/wine.sh"
 
 arch=$1 filter=$2 seed=$3 long=$4
 results=$build/$arch/results
-# Far beyond what any program takes: only one that hangs gets there.
+# In seconds. Only a program that hangs takes that long.
 limit=1800
 [ -z "$seed" ] || export QUORVANE_SEED=$seed
 [ -z "$long" ] || { export QUORVANE_LONG=$long && limit=86400; }

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# A private X server of a fixed size; sourced, never run.
+# A private X server of a fixed size. Source it; do not run it.
 
 # start_screen: exports DISPLAY and sets screen_pid.
 start_screen() {

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# Wine prefixes of the project's own, below build/wine; sourced, never run.
+# The project's own Wine prefixes, below build/wine. Source it; do not run it.
 
 declare -A wine_arch=([x64]=win64 [x64-checked]=win64 [x86]=win32)
 
@@ -10,14 +10,14 @@ wine_environment() {
     export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 }
 
-# fresh_prefix ARCH NAME SETTINGS...: makes build/wine/NAME anew, as a copy of a pristine prefix with further settings
-# (files of this folder), and makes it the current one.
+# fresh_prefix ARCH NAME SETTINGS...: replaces build/wine/NAME by a copy of a pristine prefix, applies settings (files
+# of this folder), and makes it the current prefix.
 fresh_prefix() {
     local arch=$1 prefix=$build/wine/$2 pristine=$build/wine/${wine_arch[$1]}.pristine settings
     shift 2
     wine_environment "$arch" "$prefix"
     mkdir -p "$build/wine"
-    # Runs for the same kind of Windows share it; the first one makes it.
+    # All runs for one kind of Windows share the pristine prefix; the first one makes it.
     (flock 9 && WINEPREFIX=$pristine provide_pristine_prefix "$pristine") 9>"$pristine.lock"
     rm -rf "$prefix"
     cp -a --reflink=auto "$pristine" "$prefix"
@@ -39,7 +39,7 @@ provide_pristine_prefix() {
 make_pristine_prefix() {
     rm -rf "$1" "$1.stamp"
     timeout -k 5 300 wine wineboot -i >"$1.log" 2>&1 || die "Wine could not make a prefix, see $1.log"
-    # Debian's Wine does not look for its fonts where Debian's package puts them; captions draw their buttons with this.
+    # Debian's Wine does not find the fonts of Debian's package. The buttons of captions are drawn with this one.
     ln -s /usr/share/wine/fonts/marlett.ttf "$1/drive_c/windows/Fonts/"
     take_settings wine.reg
     timeout -k 5 60 wineserver -w
@@ -50,5 +50,5 @@ take_settings() {
     (cd "$project/tools/lib" && timeout -k 5 60 wine regedit /S "$1" 2>/dev/null) || die "Wine did not take $1"
 }
 
-# end_wine: ends what still runs in the current prefix.
+# end_wine: ends whatever still runs in the current prefix.
 end_wine() { wineserver -k 2>/dev/null || true; }

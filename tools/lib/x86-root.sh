@@ -1,6 +1,6 @@
 # shellcheck shell=bash
-# 32-bit programs run under a real 32-bit Wine. Where the system has none, a bare i386 Debian in a folder of its own
-# holds it, entered by chroot inside a private mount namespace. Sourced, never run.
+# 32-bit programs run under a real 32-bit Wine. Where the system has none, it is installed in a bare i386 Debian in a
+# folder of its own, which is entered by chroot inside a private mount namespace. Source it; do not run it.
 
 x86_root=${QUORVANE_X86_ROOT:-$build/x86-root}
 x86_ready=$x86_root/quorvane-ready
@@ -8,14 +8,14 @@ x86_log=$build/x86-root.log
 
 system_has_wine32() { [ -x /usr/lib/wine/wine ]; }
 
-# x86_prepare: prints why not, and fails, where no 32-bit Wine can be had.
+# x86_prepare: where no 32-bit Wine can be provided, prints the reason and fails.
 x86_prepare() {
     if system_has_wine32; then
         return 0
     elif ! become_root_possible; then
-        say "neither root nor sudo is to be had, so no chroot"
+        say "neither root nor sudo is available, so chroot is impossible"
     elif ! as_root unshare --mount --propagation private mount -t tmpfs none /mnt 2>/dev/null; then
-        say "this system may not mount, so no chroot"
+        say "this system does not allow mounts, so chroot is impossible"
     elif [ ! -e "$x86_ready" ] && ! x86_make_root >"$x86_log" 2>&1; then
         say "the i386 system could not be made, see $x86_log"
     else
@@ -24,8 +24,8 @@ x86_prepare() {
     return 1
 }
 
-# x86_make_root: its status is that of the first step that fails. debootstrap mounts too: in a name space of its own, so
-# that nothing stays mounted where it is broken off.
+# x86_make_root: its status is that of the first step that fails. debootstrap also mounts. It runs in a namespace of its
+# own, so that nothing stays mounted if it is interrupted.
 x86_make_root() {
     local codename mirror
     codename=$(. /etc/os-release && printf '%s' "$VERSION_CODENAME")
@@ -42,7 +42,7 @@ x86_make_root() {
         as_root touch "$x86_ready"
 }
 
-# system_mirror CODENAME: where this system's own packages come from.
+# system_mirror CODENAME: prints where this system's own packages come from.
 system_mirror() {
     apt-get indextargets --format '$(REPO_URI) $(RELEASE) $(COMPONENT)' |
         awk -v release="$1" '$2 == release && $3 == "main" { print $1; exit }'
@@ -56,7 +56,7 @@ system_proxy() {
 }
 
 # x86_enter UID:GID COMMAND...: runs a command in the i386 system, which sees this project as /quorvane. The mounts
-# live in a name space of their own and vanish with the command.
+# live in a namespace of their own and vanish with the command.
 x86_enter() {
     local user=$1
     shift
