@@ -9,7 +9,7 @@ namespace
 {
 constexpr std::size_t kChangesPerRun = 8;
 
-// Adds up what is taken between its starts and stops.
+// Adds up the processor time between its starts and stops.
 class ProcessorShare
 {
 public:
@@ -27,7 +27,7 @@ int Row(HWND list, int row)
     return row >= 0 ? row : static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)) + row;
 }
 
-// As a list box tells of a row that was clicked.
+// Does what a list box does when a row is clicked.
 void Select(HWND dialog, int listId, int row)
 {
     const HWND list = GetDlgItem(dialog, listId);
@@ -42,7 +42,7 @@ struct Times
     std::vector<double> painted;
 };
 
-// Steps that make changes one after another; one has ended when the next step comes.
+// Steps that make one change after another. A change is painted when the next step is called.
 std::vector<Stage::Step> TimedChanges(const std::function<void(HWND, std::size_t)>& change, Times& times)
 {
     std::vector<Stage::Step> steps;
@@ -98,7 +98,7 @@ Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& 
     return comparison;
 }
 
-// What the editor shows for either row, when neither is shown for the first time.
+// What the editor shows for each of the two rows, once both have been shown before.
 std::array<EditorState, 2> EditorBench::StatesOf(const EditorKind& kind, const refhost::Machine& machine,
                                                  const std::function<void(HWND, std::size_t)>& select)
 {

@@ -9,7 +9,7 @@
 #include <array>
 #include <functional>
 
-// Measures editors against their floor, which learns from the editor itself what it must show.
+// Measures editors against their floor. The floor learns from the real editor what it must show.
 class EditorBench
 {
 public:
@@ -18,21 +18,21 @@ public:
     {
     }
 
-    // From the call to the return, the editor being cancelled as soon as it has come to rest.
+    // Measures from the call to the return. The editor is cancelled as soon as it is idle.
     Comparison OpenAndClose(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
                             int rounds);
 
-    // What a selection of another row takes.
+    // A selection of another row, which is measured.
     struct Selection
     {
         int listId;
-        std::vector<int> rows; // two, taken in turn; negative ones count from the end
+        std::vector<int> rows; // two, selected alternately; negative ones count from the end
         Rebuilds rebuilds;
     };
     struct ChangeTimes
     {
         Comparison handled; // until the pages are stored and loaded
-        Comparison painted; // until everything is painted too
+        Comparison painted; // until everything is painted as well
     };
     ChangeTimes Change(const std::string& name, const EditorKind& kind, const refhost::Machine& machine,
                        const Selection& selection, int rounds);

@@ -20,7 +20,7 @@ const EditorKind kUserEditor = {
 
 namespace
 {
-// A control that no other page of an editor has.
+// A control that occurs on no other page of an editor.
 int TypicalControl(UINT pageTemplate)
 {
     switch (pageTemplate)

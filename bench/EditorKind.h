@@ -7,7 +7,7 @@
 #include <vector>
 #include <windows.h>
 
-// One of the three editors, by what its windows are made of.
+// One of the three editors: its operation and the templates of its windows.
 struct EditorKind
 {
     const char* name;
@@ -26,10 +26,10 @@ struct EditorState
     std::wstring caption;
     WindowState dialog; // without the tab control
     std::vector<std::wstring> tabs;
-    std::vector<WindowState> pages; // in tab order; a grid and its parts are left out
+    std::vector<WindowState> pages; // in tab order, without a grid and its parts
 };
 
 EditorState ReadEditor(const EditorKind& kind, HWND dialog);
 
-// The tab control of an open editor; null where there is none.
+// The tab control of an open editor, or null.
 HWND TabOf(HWND dialog);

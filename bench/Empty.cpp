@@ -2,7 +2,8 @@
 
 #include <commctrl.h>
 
-// A library that imports from the same system libraries and does nothing: what loading any of its kind costs.
+// Imports from the same system libraries as Quorvane.dll and does nothing. Loading it shows what loading any such
+// library costs.
 extern "C" __declspec(dllexport) int Nothing()
 {
     InitCommonControls();

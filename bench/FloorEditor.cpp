@@ -10,7 +10,7 @@ namespace
 constexpr int kTabPadding = 4;
 constexpr wchar_t kGridClass[] = L"BenchGrid";
 
-// The lists that a page fills anew for every scheme or mode.
+// The lists that a page fills again for every scheme or mode.
 std::set<int> RebuiltLists(UINT pageTemplate)
 {
     switch (pageTemplate)
@@ -49,7 +49,7 @@ void RegisterGridClass()
     RegisterClassW(&windowClass);
 }
 
-// The library's manifest as the library itself activates it; made once, as nothing about it ever changes.
+// The library's manifest, as the library activates it. Created once, because it never changes.
 HANDLE ControlsOf(HMODULE library)
 {
     static const HANDLE context = [library] {
@@ -218,7 +218,7 @@ void FloorEditor::CreatePages()
                      SWP_NOZORDER | SWP_NOACTIVATE | (i == 0 ? SWP_SHOWWINDOW : 0u));
 }
 
-// The system controls that the grid is made of; the rows it draws by itself.
+// Creates the system controls that the grid consists of. The grid draws its rows itself.
 void FloorEditor::CreateGrid(HWND page) const
 {
     const RECT rect = RectOf(GetDlgItem(page, IDC_STATIC_GRID), page);

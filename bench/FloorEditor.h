@@ -6,14 +6,14 @@
 #include <string>
 #include <vector>
 
-// Which lists are emptied and filled, whether their rows change or not.
+// Which lists are emptied and filled, even if their rows stay the same.
 struct Rebuilds
 {
-    bool pageLists;   // those that the pages build anew
+    bool pageLists;   // those that the pages fill again
     int listOfDialog; // 0: none
 };
 
-// What another selection takes: the controls of every page are read, then shown as in the other state.
+// What the floor does to change the selection: it reads the controls of every page, and then shows the other state.
 struct FloorChange
 {
     FloorChange(const EditorKind& kind, const EditorState& from, const EditorState& to, Rebuilds rebuilds);
@@ -23,18 +23,18 @@ struct FloorChange
     std::vector<ReadyMessages> showing;
 };
 
-// The least that an editor can cost: a bare dialog of the library's own templates with the same pages, tab control and
-// grid, filled with ready-made rows and texts, with nothing behind it.
+// The least that an editor can cost: a bare dialog with the library's own templates, the same pages, tab control and
+// grid, filled with ready-made rows and texts, and with no data behind it.
 class FloorEditor
 {
 public:
-    // Shows what the real editor was seen to show.
+    // state: what the real editor showed.
     FloorEditor(HMODULE library, const EditorKind& kind, const EditorState& state);
 
-    // Modal, until it is cancelled.
+    // Runs modally until the dialog is cancelled.
     void Run(HWND owner);
 
-    // Of the dialog that is running.
+    // Applies the change to the dialog that is running.
     void Apply(const FloorChange& change) const;
 
 private:

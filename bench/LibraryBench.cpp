@@ -77,7 +77,7 @@ std::wstring MakeLanguageFolder(int keys)
     return folder;
 }
 
-// Keys that are missing make the system's call walk the whole section.
+// Looks up missing keys: these make the system's call read the whole section.
 void GrowLanguage(Report& report)
 {
     Growth first{"language: first text, by keys in the file", {}, {}, {}};

@@ -12,15 +12,15 @@ struct LoadedLibrary
     IQuorvane* editors;
 };
 
-// The program's folder with its trailing backslash.
+// The program's folder, with a trailing backslash.
 std::wstring ProgramFolder();
 
-// Loads the library and makes its interface object again and again; to be called before any editor ran, because a run
-// keeps the library loaded. It is left loaded.
+// Loads the library and creates its interface object repeatedly. Call it before any editor runs, because a run keeps
+// the library loaded. The library stays loaded afterwards.
 LoadedLibrary MeasureLoading(Report& report, int rounds);
 
-// Texts of the language file against the system's profile call.
+// Measures texts of the language file against the system's profile call.
 void MeasureLanguage(Report& report, int rounds);
 
-// The most that the whole process has had so far.
+// Measures the peak memory of the whole process so far.
 void MeasureMemory(Report& report, const std::string& name);

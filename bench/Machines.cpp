@@ -7,7 +7,7 @@
 
 namespace
 {
-// As many items as wanted, copies of what is there in turn.
+// Makes the list count items long, by copying its items in turn.
 template <class Item>
 void Grow(std::vector<Item>& items, int count)
 {

@@ -12,7 +12,7 @@
 
 namespace
 {
-// How many times the floor an action may take.
+// The most that an action may take, as a multiple of the floor.
 constexpr double kOpenTarget = 1.3;
 constexpr double kChangeTarget = 1.5;
 
@@ -23,7 +23,7 @@ constexpr int kRowsOfConfig = 1000;
 constexpr int kSizes[] = {10, 100, 1000, 10000};
 constexpr int kGrowthRounds = 3;
 
-// The schemes of the user editor stand at the end. After another configuration it shows no scheme.
+// The user editor lists its own schemes at the end. After a change of configuration it shows no scheme.
 const EditorBench::Selection kBetweenSchemes = {IDC_LIST_SCHEME, {0, 1}, {true, 0}};
 const EditorBench::Selection kBetweenUserSchemes = {IDC_LIST_SCHEME, {-1, -2}, {true, 0}};
 const EditorBench::Selection kBetweenModes = {IDC_LIST_MODE, {0, 1}, {true, 0}};
@@ -78,7 +78,7 @@ public:
 private:
     bool Wanted(const std::string& name) const { return name.find(m_options.only) != std::string::npos; }
 
-    // Only where all cases were measured does the peak stand for something.
+    // The peak means something only if all cases were measured.
     void Memory(const std::string& name)
     {
         if (m_options.only.empty())
@@ -113,7 +113,7 @@ private:
     void MeasureEditors();
     void MeasureGrowth();
 
-    // Measures a case at every size; `measure` gives the comparison for a number of rows.
+    // Measures a case at every size. `measure` returns the comparison for a number of rows.
     void Grow(const std::string& name, const std::function<Comparison(const std::string&, int)>& measure)
     {
         if (!Wanted(name))

@@ -4,18 +4,18 @@
 
 #include <set>
 
-// Messages to the controls of one window, with every value worked out beforehand.
+// Messages to the controls of one window, with all values computed beforehand.
 class ReadyMessages
 {
 public:
-    // What turns a window that shows one state into one that shows the other. The lists named by id are emptied and
-    // filled even where their rows stay the same.
+    // The messages that turn a window that shows one state into one that shows the other. rebuilt: ids of lists that
+    // are emptied and filled even if their rows stay the same.
     ReadyMessages(const WindowState& from, const WindowState& to, const std::set<int>& rebuilt = {});
 
-    // What reads the values that an operator can change.
+    // The messages that read the values that an operator can change.
     static ReadyMessages Reading(const WindowState& state);
 
-    // Controls are looked for once as long as the window lives.
+    // Looks for each control only once while the window exists.
     void Send(HWND window) const;
 
 private:
@@ -24,7 +24,7 @@ private:
         UINT message;
         WPARAM wParam;
         LPARAM lParam;
-        std::wstring text; // stands for the last parameter where there is one
+        std::wstring text; // if hasText, sent in place of lParam
         bool hasText;
     };
 
@@ -32,9 +32,9 @@ private:
     {
         int id;
         std::vector<Message> messages;
-        int enable = -1; // -1: stays
+        int enable = -1; // -1: unchanged
         int show = -1;
-        HWND window = nullptr; // as found below the parent
+        HWND window = nullptr; // as found in parent
         HWND parent = nullptr;
     };
 

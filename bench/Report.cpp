@@ -6,7 +6,7 @@
 
 namespace
 {
-// Linear, and a little for what such measurements differ by.
+// Linear, plus the scatter of such measurements.
 constexpr double kSteepestGrowth = 1.1;
 
 std::string Number(double value)
@@ -16,7 +16,7 @@ std::string Number(double value)
     return text;
 }
 
-// The system counts it too coarsely for what takes a moment.
+// The system counts processor time too coarsely for short actions.
 std::string Processor(double value)
 {
     return value > 0 ? Number(value) : "";

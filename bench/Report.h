@@ -6,13 +6,13 @@
 #include <string>
 #include <vector>
 
-// The editor's times beside those of its baseline, taken in turn.
+// The editor's times and those of its baseline, measured alternately.
 struct Comparison
 {
     explicit Comparison(std::string itsName, double itsTarget = 0) : name(std::move(itsName)), target(itsTarget) {}
 
     std::string name;
-    double target; // the ratio to stay below; 0: none
+    double target; // the highest ratio; 0: none
     Samples subject;
     Samples baseline;
     Samples ratios;              // round by round
@@ -30,7 +30,7 @@ struct Growth
     std::vector<double> baseline;
 
     double Exponent() const { return GrowthExponent(sizes, subject); }
-    // Between the two largest sizes, where nothing constant hides it.
+    // Between the two largest sizes, where constant costs matter least.
     double LastStep() const { return LastStep(subject); }
     double BaselineExponent() const { return GrowthExponent(sizes, baseline); }
     double BaselineLastStep() const { return LastStep(baseline); }

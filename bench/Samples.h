@@ -3,12 +3,12 @@
 #include <string>
 #include <vector>
 
-// Milliseconds since some moment.
+// Milliseconds since a fixed moment.
 double Now();
-// Milliseconds of processor time that this process has taken; counted by the system in steps of several.
+// Processor time of this process in milliseconds. The system counts it in steps of several.
 double ProcessorTime();
 
-// One figure, measured again and again.
+// One figure, measured repeatedly.
 class Samples
 {
 public:
@@ -23,5 +23,5 @@ private:
     std::vector<double> m_values;
 };
 
-// The exponent with which a cost grows: the slope of the straight line through the logarithms.
+// The exponent with which a cost grows: the slope of the line through the logarithms.
 double GrowthExponent(const std::vector<double>& sizes, const std::vector<double>& costs);

@@ -39,7 +39,7 @@ void Stage::Run(const std::function<void()>& modal, const std::vector<Step>& ste
     modal();
     if (m_next <= m_steps.size())
         throw std::runtime_error("a dialog closed before its last step");
-    // What closing it left behind belongs to this run and not to the next one.
+    // Messages left over from closing the dialog belong to this run, not to the next one.
     MSG message;
     while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE))
         DispatchMessageW(&message);
@@ -58,8 +58,8 @@ void Stage::AtRest(HWND dialog)
     if (m_next < m_steps.size())
     {
         m_steps[m_next++](dialog);
-        // Even a step that changes nothing must lead to the next one: the loop comes to rest anew only after it has
-        // seen a message waiting, and takes the first one unseen.
+        // The loop reports that it is idle only after it has found a message waiting, and it takes the first one
+        // without a report. These messages make sure that even a step without effect leads to the next one.
         PostMessageW(dialog, WM_NULL, 0, 0);
         PostMessageW(dialog, WM_NULL, 0, 0);
     }

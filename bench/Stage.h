@@ -6,7 +6,7 @@
 #include <windows.h>
 
 // The host's part in a measurement: the window that owns the dialog. A modal loop tells the owner whenever the dialog
-// has come to rest: nothing is left to be handled or painted. One at a time.
+// is idle, with nothing left to handle or paint. Use one object at a time.
 class Stage
 {
 public:
@@ -17,7 +17,8 @@ public:
 
     using Step = std::function<void(HWND dialog)>;
 
-    // Runs a modal dialog. Each time it comes to rest the next step is called; after the last one it is cancelled.
+    // Runs a modal dialog. Each time the dialog is idle, the next step is called. After the last step the dialog is
+    // cancelled.
     void Run(const std::function<void()>& modal, const std::vector<Step>& steps);
 
     HWND Owner() const { return m_owner; }

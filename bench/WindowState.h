@@ -4,7 +4,7 @@
 #include <vector>
 #include <windows.h>
 
-// What a control shows, as far as messages tell.
+// What a control shows, as far as messages can tell.
 struct ControlState
 {
     int id = 0;
@@ -22,11 +22,11 @@ struct ControlState
     bool Is(const wchar_t* name) const { return className == name; }
 };
 
-// The controls of a dialog or page, in the order of its template.
+// The controls of a dialog or page, in template order.
 using WindowState = std::vector<ControlState>;
 
 WindowState ReadWindow(HWND dialog);
 
 bool IsOfClass(HWND window, const wchar_t* name);
-// Direct children only.
+// The direct children only.
 std::vector<HWND> Children(HWND window);

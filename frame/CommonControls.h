@@ -2,8 +2,8 @@
 
 #include <windows.h>
 
-// While it lives, new windows get the version 6 controls that this library's manifest names. Where the system has
-// none, the host's controls are used.
+// While an object of this class exists, new windows get the version 6 controls that this library's manifest names.
+// Where the system has none, they get the host's controls.
 class CCommonControls
 {
 public:

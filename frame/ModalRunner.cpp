@@ -19,7 +19,7 @@ private:
     HINSTANCE m_hOld;
 };
 
-// Null when there is no such file: then nothing is found under the null handle either and no dialog comes up.
+// Null if there is no such file. Then nothing is found under the null handle either, and no dialog appears.
 HINSTANCE LoadBesideHost(const wchar_t* fileName)
 {
     wchar_t executable[MAX_PATH + 1] = {};

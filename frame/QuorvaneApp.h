@@ -2,7 +2,7 @@
 
 #include <afxwin.h>
 
-// The library's application object: gives the message boxes their caption.
+// The library's application object. It gives the message boxes their caption.
 class CQuorvaneApp : public CWinApp
 {
 public:

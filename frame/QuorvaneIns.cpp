@@ -16,7 +16,7 @@ void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDi
     RunModal(&dialog, L"Quorvane.dll");
 }
 
-// The host cannot catch this library's exceptions, so none may leave; the run then counts as one that was closed.
+// The host cannot catch this library's exceptions, so none may leave. The host sees a run that was closed.
 template <class Dialog>
 std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
 {
