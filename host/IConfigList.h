@@ -9,7 +9,7 @@ class IPrintConfig;
 ///
 /// Order of calls: to add a configuration, the library calls IHostData::CreateConfig, the setters of the new object,
 /// AddConfig and IHostData::DestroyConfig. After RemoveAt it removes the schemes that have the removed index from both
-/// scheme lists. It does not renumber the schemes of later configurations.
+/// scheme lists. Renumbering the schemes of later configurations is up to the host.
 class IConfigList
 {
 public:

@@ -9,7 +9,7 @@
 /// whether it keeps what was changed in memory. SaveCustomEclosionSet comes earlier, when the operator presses "Save"
 /// in the custom eclosion dialog.
 ///
-/// Both calls are made under the wait cursor and may take their time. It is the host that reports a failure.
+/// Both calls are made under the wait cursor and may take their time. Reporting a failure is up to the host.
 class IHostControl
 {
 public:

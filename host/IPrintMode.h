@@ -6,7 +6,7 @@
 /// data processing per head.
 ///
 /// A group is a position from 0 to GetCount() - 1 in IHostData::GetInkGroups. A row is a position in
-/// IHostData::GetHeadLayoutList; heads without a data processing mode count, too.
+/// IHostData::GetHeadLayoutList, counting heads without a data processing mode as well.
 ///
 /// Order of calls: passes, resolution index, name, disabled and resident are written together when the operator selects
 /// another mode or saves. Compensation and data processing modes are written as soon as they are changed.
