@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/FactoryEditor.h"
+#include "tests/editors/drivers/FactoryEditor.h"
 #include "tests/model/FactoryModel.h"
 #include "tests/model/SchemeOperator.h"
 

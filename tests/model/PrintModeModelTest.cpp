@@ -1,13 +1,13 @@
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 #include "tests/model/PrintModeOperator.h"
 #include "tests/support/RunLength.h"
 
 namespace
 {
-class RandomPrintModeOperator : public ModelTest
+class RandomPrintModeOperator : public ModelFixture
 {
 protected:
-    RandomPrintModeOperator() : ModelTest(&IQuorvane::EditPrintModes) {}
+    RandomPrintModeOperator() : ModelFixture(&IQuorvane::EditPrintModes) {}
 };
 
 TEST_P(RandomPrintModeOperator, LeavesTheHostAsTheModelHasIt)

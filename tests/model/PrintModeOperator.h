@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/PrintModeEditor.h"
+#include "tests/editors/drivers/PrintModeEditor.h"
 #include "tests/model/PrintModeModel.h"
 #include "tests/model/RandomOperator.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/EditorWindow.h"
+#include "tests/editors/drivers/EditorWindow.h"
 #include "tests/model/ConfigFields.h"
 #include "tests/model/EditorModel.h"
 #include "tests/model/SeededRun.h"

@@ -1,14 +1,14 @@
 #include "tests/model/FactoryOperator.h"
-#include "tests/model/ModelTest.h"
+#include "tests/model/ModelFixture.h"
 #include "tests/model/UserOperator.h"
 #include "tests/support/RunLength.h"
 
 namespace
 {
-class RandomFactoryOperator : public ModelTest
+class RandomFactoryOperator : public ModelFixture
 {
 protected:
-    RandomFactoryOperator() : ModelTest(&IQuorvane::EditFactorySchemes) {}
+    RandomFactoryOperator() : ModelFixture(&IQuorvane::EditFactorySchemes) {}
 };
 
 TEST_P(RandomFactoryOperator, LeavesTheHostAsTheModelHasIt)
@@ -22,10 +22,10 @@ TEST_P(RandomFactoryOperator, LeavesTheHostAsTheModelHasIt)
 
 RUN_WITH_EVERY_SEED(RandomFactoryOperator);
 
-class RandomUserOperator : public ModelTest
+class RandomUserOperator : public ModelFixture
 {
 protected:
-    RandomUserOperator() : ModelTest(&IQuorvane::EditUserSchemes) {}
+    RandomUserOperator() : ModelFixture(&IQuorvane::EditUserSchemes) {}
 };
 
 TEST_P(RandomUserOperator, LeavesTheHostAsTheModelHasIt)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/SchemeEditor.h"
+#include "tests/editors/drivers/SchemeEditor.h"
 #include "tests/model/RandomOperator.h"
 #include "tests/model/SchemeEditorModel.h"
 

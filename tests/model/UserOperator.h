@@ -1,6 +1,6 @@
 #pragma once
 
-#include "tests/editors/UserEditor.h"
+#include "tests/editors/drivers/UserEditor.h"
 #include "tests/model/SchemeOperator.h"
 #include "tests/model/UserModel.h"
 

@@ -1,4 +1,4 @@
-#include "tests/editors/CustomEclosionDialog.h"
+#include "tests/editors/drivers/CustomEclosionDialog.h"
 #include "tests/msabi/ForeignHostRoads.h"
 
 namespace

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "tests/editors/FactoryEditor.h"
-#include "tests/editors/PrintModeEditor.h"
-#include "tests/editors/UserEditor.h"
+#include "tests/editors/drivers/FactoryEditor.h"
+#include "tests/editors/drivers/PrintModeEditor.h"
+#include "tests/editors/drivers/UserEditor.h"
 #include "tests/msabi/ForeignHostTest.h"
 
 // Each road goes through one editor, so that together they call every operation of the host. To be gone in this order,

@@ -1,5 +1,5 @@
-#include "tests/editors/FactoryEditor.h"
-#include "tests/editors/PrintModeEditor.h"
+#include "tests/editors/drivers/FactoryEditor.h"
+#include "tests/editors/drivers/PrintModeEditor.h"
 #include "tests/robustness/HostileHost.h"
 #include "tests/robustness/WholeMachine.h"
 #include "tests/support/EditorRun.h"

@@ -1,6 +1,6 @@
-#include "tests/editors/FactorySchemeTest.h"
-#include "tests/editors/PrintModeTest.h"
-#include "tests/editors/UserSchemeTest.h"
+#include "tests/editors/fixtures/FactorySchemeFixture.h"
+#include "tests/editors/fixtures/PrintModeFixture.h"
+#include "tests/editors/fixtures/UserSchemeFixture.h"
 
 namespace
 {
@@ -23,7 +23,7 @@ void ExpectConstant(const CallsFor& callsFor)
     EXPECT_EQ(callsFor(1000), at100);
 }
 
-class UserCallGrowth : public UserSchemeTest
+class UserCallGrowth : public UserSchemeFixture
 {
 protected:
     void UseSchemes(int count)
@@ -85,7 +85,7 @@ TEST_F(UserCallGrowth, IsNoneToDeleteAScheme)
     });
 }
 
-class FactoryCallGrowth : public FactorySchemeTest
+class FactoryCallGrowth : public FactorySchemeFixture
 {
 };
 
@@ -99,7 +99,7 @@ TEST_F(FactoryCallGrowth, IsLinearToOpen)
     });
 }
 
-class PrintModeCallGrowth : public PrintModeTest
+class PrintModeCallGrowth : public PrintModeFixture
 {
 };
 

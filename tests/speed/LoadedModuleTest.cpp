@@ -1,11 +1,11 @@
-#include "tests/editors/FactorySchemeTest.h"
+#include "tests/editors/fixtures/FactorySchemeFixture.h"
 #include "tests/support/DialogWatch.h"
 
 #include <psapi.h>
 
 namespace
 {
-using LoadedModule = FactorySchemeTest;
+using LoadedModule = FactorySchemeFixture;
 
 std::wstring PathOf(HMODULE module)
 {

@@ -1,7 +1,7 @@
-#include "tests/editors/CustomEclosionDialog.h"
-#include "tests/editors/FactorySchemeTest.h"
-#include "tests/editors/PrintModeTest.h"
-#include "tests/editors/UserSchemeTest.h"
+#include "tests/editors/drivers/CustomEclosionDialog.h"
+#include "tests/editors/fixtures/FactorySchemeFixture.h"
+#include "tests/editors/fixtures/PrintModeFixture.h"
+#include "tests/editors/fixtures/UserSchemeFixture.h"
 #include "tests/speed/MessageLog.h"
 
 #include <algorithm>
@@ -101,9 +101,9 @@ protected:
     MessageLog m_log;
 };
 
-using PrintModePaint = Painted<PrintModeTest>;
-using FactoryPaint = Painted<FactorySchemeTest>;
-using UserPaint = Painted<UserSchemeTest>;
+using PrintModePaint = Painted<PrintModeFixture>;
+using FactoryPaint = Painted<FactorySchemeFixture>;
+using UserPaint = Painted<UserSchemeFixture>;
 
 TEST_F(PrintModePaint, ComesOnceAndAfterTheFillingAtTheOpening)
 {
@@ -173,8 +173,8 @@ void ChangePaint<Fixture>::ExpectPaintedOnce(const SchemeEditor& editor, int fro
         GetParam().windows);
 }
 
-using FactoryChangePaint = ChangePaint<FactorySchemeTest>;
-using UserChangePaint = ChangePaint<UserSchemeTest>;
+using FactoryChangePaint = ChangePaint<FactorySchemeFixture>;
+using UserChangePaint = ChangePaint<UserSchemeFixture>;
 
 TEST_P(FactoryChangePaint, ComesOnceToWhatIsToBeSeen)
 {

@@ -1,5 +1,5 @@
-#include "tests/editors/FactorySchemeTest.h"
-#include "tests/editors/UserSchemeTest.h"
+#include "tests/editors/fixtures/FactorySchemeFixture.h"
+#include "tests/editors/fixtures/UserSchemeFixture.h"
 #include "tests/speed/MessageLog.h"
 
 #include <set>
@@ -29,7 +29,7 @@ int AddedInSight(const std::vector<LoggedMessage>& messages, int listId)
     return added;
 }
 
-class FactoryRefill : public FactorySchemeTest
+class FactoryRefill : public FactorySchemeFixture
 {
 protected:
     MessageLog m_log;
@@ -123,7 +123,7 @@ TEST_F(FactoryRefill, OfAPageIsNotDrawnRowByRow)
     });
 }
 
-class UserRefill : public UserSchemeTest
+class UserRefill : public UserSchemeFixture
 {
 protected:
     MessageLog m_log;
