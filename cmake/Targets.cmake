@@ -12,6 +12,14 @@ function(quorvane_guard_heap target)
     endif()
 endfunction()
 
+# quorvane_shared_tests(NAME SOURCES FILE... LINKS TARGET...): tests that more than one program has. Objects, because
+# nothing refers to a test.
+function(quorvane_shared_tests name)
+    cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+    add_library(${name} OBJECT ${ARG_SOURCES})
+    target_link_libraries(${name} PUBLIC quorvane_options ${ARG_LINKS} gtest)
+endfunction()
+
 # quorvane_test(NAME SOURCES FILE... LINKS TARGET...): a GoogleTest program that ./test.sh runs. It loads the DLL at
 # run time, so it is never linked against it.
 function(quorvane_test name)

@@ -1,8 +1,8 @@
 #include "dialogs/base/LanguageFile.h"
 
-#include "tests/base/IniGenerator.h"
 #include "tests/base/LanguageCases.h"
 #include "tests/fuzz/CurrentInput.h"
+#include "tests/fuzz/IniGenerator.h"
 #include "tests/fuzz/LanguageInputs.h"
 #include "tests/support/RunLength.h"
 #include "tests/support/TempFolder.h"

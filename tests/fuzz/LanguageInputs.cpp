@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "tests/base/IniGenerator.h"
 #include "tests/fuzz/ByteMutations.h"
+#include "tests/fuzz/IniGenerator.h"
 #include "tests/fuzz/ReferenceLanguageText.h"
 #include "tests/support/FileContent.h"
 #include "tests/support/Utf16.h"

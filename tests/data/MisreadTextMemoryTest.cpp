@@ -1,4 +1,4 @@
-#include "dialogs/base/MisreadText.h"
+#include "dialogs/data/MisreadText.h"
 
 #include <cstring>
 #include <cwchar>

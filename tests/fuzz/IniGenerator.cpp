@@ -1,4 +1,4 @@
-#include "tests/base/IniGenerator.h"
+#include "tests/fuzz/IniGenerator.h"
 
 #include "tests/support/Utf16.h"
 
