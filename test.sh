@@ -48,7 +48,7 @@ parse_options() {
 tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
 
 install_packages() {
-    local packages=("${x64_packages[@]}" g++ clang clang-format lld)
+    local packages=("${x64_packages[@]}" g++ clang clang-format lld python3)
     ! tests_x86 || packages+=(g++-mingw-w64-i686-posix)
     ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
     install_missing "${packages[@]}"
@@ -113,6 +113,7 @@ count_checks() {
     local arch
     count_check "format of the sources" "$project/tools/checks/check-format.sh"
     count_check "keys of the language files" "$project/tools/checks/check-language-keys.sh"
+    count_check "what is written from host/tables.txt" "$project/tests/tables/written-tables.py"
     for arch in "${arches[@]}"; do
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
