@@ -1,6 +1,4 @@
-#include "host/Quorvane.h"
-
-#include <gtest/gtest.h>
+#include "tables/Positions.h"
 
 #include <type_traits>
 
@@ -11,22 +9,10 @@ namespace
 static_assert(std::is_same_v<decltype(&NewInterface), NewInterfaceFunction>);
 static_assert(std::is_same_v<decltype(&ReleaseInterface), ReleaseInterfaceFunction>);
 
-/// One pointer to the table and nothing else: what every compiler for Windows makes of a class with virtual operations.
-template <typename... Interfaces>
-void ExpectOnlyATable()
-{
-    static_assert(((sizeof(Interfaces) == sizeof(void*)) && ...));
-    static_assert((!std::has_virtual_destructor_v<Interfaces> && ...));
-}
-
-TEST(Interfaces, AreATableAndNothingElse)
-{
-    ExpectOnlyATable<IQuorvane, IHostData, IHostControl, IConfigList, IPrintConfig, IPrintMode, IFactorySchemeList,
-                     IUserSchemeList, IPrintScheme, IUserScheme, ISchemeParams>();
-    ExpectOnlyATable<ILayoutList, ILayout, IHeadLayoutList, IHeadLayout, IDataMode, IXResolutionList, IXResolution,
-                     IInkGroupTable, IInkGroup, IInkChannelTable, IInkChannel, IChannelList, IChannelSetup,
-                     IMaterialList, IMaterial, IDeviceState, IActiveSetup, IParamTable>();
-    ExpectOnlyATable<ICustomEclosionSet, ICustomEclosion, IEclosionMode, IEclosionElement>();
-}
+// One pointer to the table and nothing else: what every compiler for Windows makes of a class with virtual operations.
+#define EXPECT_ONLY_A_TABLE(interface_)                                                                                \
+    static_assert(sizeof(interface_) == sizeof(void*));                                                                \
+    static_assert(!std::has_virtual_destructor_v<interface_>);
+HOST_INTERFACES(EXPECT_ONLY_A_TABLE)
 
 } // namespace
