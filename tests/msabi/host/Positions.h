@@ -1,19 +1,13 @@
 #pragma once
 
-// The one table of what a host offers: every operation that the library may call, by its position.
+#include "tables/Signatures.h"
 
-struct Position
-{
-    unsigned number;
-    const char* name;
-    // The result and then the arguments, a letter each: v nothing, p object, a storage of the caller, t text, f float,
-    // i and u 32 bits with and without sign, w 16 bits, s and c 8 bits with and without sign, b a boolean of one byte,
-    // e a clean 0 or 1 in 32 bits.
-    const char* signature;
-};
+using tables::InterfaceId;
+using tables::Position;
 
 constexpr unsigned kMaxPositions = 72;
 
+// The operations of an interface that the library may call, and how often it has called each.
 struct InterfaceTable
 {
     const char* name;
@@ -24,41 +18,7 @@ struct InterfaceTable
     unsigned calls[kMaxPositions];
 };
 
-enum class InterfaceId
-{
-    FactorySchemeList,
-    UserSchemeList,
-    ActiveSetup,
-    ChannelList,
-    ChannelSetup,
-    ConfigList,
-    CustomEclosion,
-    CustomEclosionSet,
-    DataMode,
-    DeviceState,
-    EclosionElement,
-    EclosionMode,
-    HeadLayout,
-    HeadLayoutList,
-    HostControl,
-    HostData,
-    InkChannel,
-    InkChannelTable,
-    InkGroup,
-    InkGroupTable,
-    Layout,
-    LayoutList,
-    Material,
-    MaterialList,
-    ParamTable,
-    PrintConfig,
-    PrintMode,
-    PrintScheme,
-    SchemeParams,
-    UserScheme,
-    XResolution,
-    XResolutionList,
-    Count
-};
-
 InterfaceTable& TableOf(InterfaceId interface_);
+
+// The library's promise of an operation's first argument, where 32 bits are a truth value.
+bool TakesTruth(const InterfaceTable& table, const Position& position);

@@ -122,8 +122,6 @@ void AddCall(TextBuffer& text, const CallFrame& frame)
 
 void CheckArgument(char kind, uintptr_t value)
 {
-    if (kind == 'e')
-        Require(static_cast<uint32_t>(value) <= 1, "a boolean argument is no clean 0 or 1 in 32 bits");
     if (kind == 't')
         Require(value != 0, "a name is null");
     if (kind == 'p' || kind == 'a')
@@ -133,6 +131,8 @@ void CheckArgument(char kind, uintptr_t value)
 void CheckArguments(const CallFrame& frame)
 {
     const char* const arguments = frame.position->signature + 1;
+    if (TakesTruth(*frame.object->watched.table, *frame.position))
+        Require(static_cast<uint32_t>(frame.argument1) <= 1, "a boolean argument is no clean 0 or 1 in 32 bits");
     if (arguments[0])
         CheckArgument(arguments[0], arguments[0] == 'f' ? 0 : frame.argument1);
     if (arguments[0] && arguments[1])
@@ -152,7 +152,6 @@ uintptr_t WithJunk(char result, uintptr_t value)
     {
     case 'c':
     case 's':
-    case 'b':
         return (kJunk & ~static_cast<uintptr_t>(0xFF)) | (value & 0xFF);
     case 'w':
         return (kJunk & ~static_cast<uintptr_t>(0xFFFF)) | (value & 0xFFFF);
