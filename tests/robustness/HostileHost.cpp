@@ -42,7 +42,7 @@ void HostileHost::Enter(HostileObject& object, std::size_t position)
         object.text->Forbid();
     if (m_temper.LosesObjects())
         LoseObject();
-    if (object.table == OperationsOf<IHostControl>::Table() && m_dispatching < kDeepestDispatch &&
+    if (object.table == HostileTable<IHostControl>() && m_dispatching < kDeepestDispatch &&
         m_temper.DispatchesMessages())
         DispatchMessages();
     if (m_temper.Throws())

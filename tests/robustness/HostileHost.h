@@ -24,7 +24,7 @@ public:
     template <class Interface, class Operation>
     void Within(Operation Interface::*operation, std::function<void()> action, unsigned callsBefore = 0)
     {
-        m_awaited = {OperationsOf<Interface>::Table(), PositionOf(operation), callsBefore, std::move(action)};
+        m_awaited = {HostileTable<Interface>(), PositionOf(operation), callsBefore, std::move(action)};
     }
     // Whether that call came.
     bool HasActed() const { return !m_awaited.action; }
@@ -32,7 +32,7 @@ public:
     template <class Interface, class Operation>
     void Always(Operation Interface::*operation, std::uint32_t number)
     {
-        m_fixed[{OperationsOf<Interface>::Table(), PositionOf(operation)}] = number;
+        m_fixed[{HostileTable<Interface>(), PositionOf(operation)}] = number;
     }
     // The object or name that the call being handled is about to give is null.
     void GiveNull() { m_nextIsNull = true; }
@@ -102,7 +102,7 @@ Interface* HostileHost::Wrap(Interface* sound)
 {
     if (!sound)
         return nullptr;
-    void* const* table = OperationsOf<Interface>::Table();
+    void* const* table = HostileTable<Interface>();
     std::unique_ptr<HostileObject>& object = m_objects[{sound, table}];
     if (!object)
     {
@@ -125,7 +125,7 @@ RegisterOf<Result> HostileHost::Spoilt([[maybe_unused]] HostileObject& object, R
         Result wrapped = Wrap(sound);
         if (GivesNull())
             return nullptr;
-        const Objects& known = m_ofInterface[OperationsOf<std::remove_pointer_t<Result>>::Table()];
+        const Objects& known = m_ofInterface[HostileTable<std::remove_pointer_t<Result>>()];
         if (!known.empty() && m_temper.GivesAnotherObject())
             return known[m_temper.Below(static_cast<std::uint32_t>(known.size()))]
                 ->template As<std::remove_pointer_t<Result>>();
