@@ -114,6 +114,7 @@ count_checks() {
     count_check "format of the sources" "$project/tools/checks/check-format.sh"
     count_check "keys of the language files" "$project/tools/checks/check-language-keys.sh"
     count_check "what is written from host/tables.txt" "$project/tests/tables/written-tables.py"
+    count_check "planted includes" "$project/tests/includes/planted-includes.sh"
     for arch in "${arches[@]}"; do
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
