@@ -108,11 +108,6 @@ CWaitCursor::~CWaitCursor()
         ::SetCursor(state.hcurBeforeWait);
 }
 
-void CWaitCursor::Restore()
-{
-    ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
-}
-
 BOOL CMenu::LoadMenu(UINT nIDResource)
 {
     DestroyMenu();

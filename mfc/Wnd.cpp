@@ -254,11 +254,6 @@ void CWnd::OnSize(UINT, int, int)
     Default();
 }
 
-void CWnd::OnPaint()
-{
-    Default();
-}
-
 const AFX_MSGMAP* CWnd::GetThisMessageMap()
 {
     static const AFX_MSGMAP_ENTRY entries[] = {{0, 0, 0, nullptr, nullptr}};

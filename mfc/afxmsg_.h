@@ -103,7 +103,6 @@ protected:                                                                      
 #define ON_LBN_DBLCLK(id, handler) ON_CONTROL(LBN_DBLCLK, id, handler)
 #define ON_CBN_SELCHANGE(id, handler) ON_CONTROL(CBN_SELCHANGE, id, handler)
 #define ON_EN_KILLFOCUS(id, handler) ON_CONTROL(EN_KILLFOCUS, id, handler)
-#define ON_EN_CHANGE(id, handler) ON_CONTROL(EN_CHANGE, id, handler)
 
 #define ON_MESSAGE(message, handler) {message, 0, 0, nullptr, &afx::InvokeMessage<handler>},
 #define ON_REGISTERED_MESSAGE(variable, handler) {0xC000, 0, 0, &variable, &afx::InvokeMessage<handler>},

@@ -31,7 +31,6 @@ public:
     // The page becomes a child of the tab control but stays its owner's object. The first one is shown.
     void AddTab(CWnd* pTabWnd, LPCTSTR lpszTabLabel, UINT uiImageId = static_cast<UINT>(-1), BOOL bDetachable = TRUE);
     BOOL SetActiveTab(int iTab);
-    int GetActiveTab() const { return m_nActive; } // -1: no tabs
     int GetTabsNum() const { return static_cast<int>(m_pages.size()); }
 
     BOOL PreTranslateMessage(MSG* pMsg) override;
@@ -56,5 +55,5 @@ private:
     bool MoveByTabKey(const MSG& msg);
 
     std::vector<CWnd*> m_pages;
-    int m_nActive = -1;
+    int m_nActive = -1; // no tabs
 };

@@ -217,8 +217,6 @@ TEST(Dialog, TabMovesTheFocus)
         "the dialog is shown", [&] { return IsShown(dialog); }, [] { ModalDialog::Press(VK_TAB); });
     script.Then("Tab was handled", [&] {
         EXPECT_EQ(dialog.Item(IDC_OTHER), ::GetFocus());
-        dialog.NextDlgCtrl();
-        EXPECT_EQ(dialog.Item(IDC_PUSH), ::GetFocus());
         dialog.Command(IDCANCEL);
     });
     dialog.DoModal();

@@ -51,24 +51,6 @@ TEST_F(Edit, GivesItsTextWhole)
     }
 }
 
-TEST_F(Edit, SelectsAPartOrAll)
-{
-    edit.SetWindowText(L"12345");
-    edit.SetSel(1, 3);
-    EXPECT_EQ(MAKELRESULT(1, 3), edit.SendMessage(EM_GETSEL));
-    edit.SetSel(0, -1);
-    EXPECT_EQ(MAKELRESULT(0, 5), edit.SendMessage(EM_GETSEL));
-}
-
-TEST_F(Edit, LimitHoldsForTypingOnly)
-{
-    edit.LimitText(3);
-    Type(edit, L"12345");
-    EXPECT_EQ(L"123", dialog.Text(plainId));
-    edit.SetWindowText(L"longer");
-    EXPECT_EQ(L"longer", dialog.Text(plainId));
-}
-
 TEST_F(Edit, TellsOfTyping)
 {
     Type(edit, L"1");
@@ -96,7 +78,7 @@ TEST_F(Edit, DisablingItTakesTheFocusFromTheThread)
     edit.SetFocus();
     dialog.notifications.clear();
     edit.EnableWindow(FALSE);
-    EXPECT_NE(&edit, CWnd::GetFocus());
+    EXPECT_NE(edit.m_hWnd, ::GetFocus());
     EXPECT_EQ((std::vector<Notification>{{plainId, EN_KILLFOCUS}}), dialog.notifications);
 }
 } // namespace

@@ -38,17 +38,6 @@ TEST_F(WaitCursor, NestedOneDoesNotEndTheOuter)
     EXPECT_EQ(m_cross, ::GetCursor());
 }
 
-TEST_F(WaitCursor, RestoreShowsItAgainAfterADialogChangedIt)
-{
-    {
-        CWaitCursor wait;
-        ::SetCursor(::LoadCursor(nullptr, IDC_ARROW));
-        wait.Restore();
-        EXPECT_EQ(m_hourglass, ::GetCursor());
-    }
-    EXPECT_EQ(m_cross, ::GetCursor());
-}
-
 TEST_F(WaitCursor, ReturnsToTheCursorOfItsOwnBeginning)
 {
     {

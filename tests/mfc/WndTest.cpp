@@ -283,7 +283,6 @@ protected:
     void OnList() { calls.emplace_back("list selection"); }
     void OnListDouble() { calls.emplace_back("list double click"); }
     void OnCombo() { calls.emplace_back("combo selection"); }
-    void OnEditChange() { calls.emplace_back("edit change"); }
     void OnEditLeft() { calls.emplace_back("edit left"); }
     void OnButton() { calls.emplace_back("button"); }
     void OnMenu() { calls.emplace_back("menu"); }
@@ -306,7 +305,7 @@ protected:
     void OnPaint()
     {
         ++paints;
-        TestDialog::OnPaint();
+        const CPaintDC dc(this);
     }
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
@@ -320,7 +319,6 @@ BEGIN_MESSAGE_MAP(BaseDialog, TestDialog)
     ON_LBN_SELCHANGE(listId, &BaseDialog::OnList)
     ON_LBN_DBLCLK(listId, &BaseDialog::OnListDouble)
     ON_CBN_SELCHANGE(comboId, &BaseDialog::OnCombo)
-    ON_EN_CHANGE(editId, &BaseDialog::OnEditChange)
     ON_EN_KILLFOCUS(editId, &BaseDialog::OnEditLeft)
     ON_BN_CLICKED(buttonId, &BaseDialog::OnButton)
     ON_COMMAND(commandId, &BaseDialog::OnMenu)
@@ -372,7 +370,6 @@ TEST_F(MessageMap, MatchesCodeAndControl)
     EXPECT_EQ(Calls{"list selection"}, Notify(listId, LBN_SELCHANGE));
     EXPECT_EQ(Calls{"list double click"}, Notify(listId, LBN_DBLCLK));
     EXPECT_EQ(Calls{"combo selection"}, Notify(comboId, CBN_SELCHANGE));
-    EXPECT_EQ(Calls{"edit change"}, Notify(editId, EN_CHANGE));
     EXPECT_EQ(Calls{"edit left"}, Notify(editId, EN_KILLFOCUS));
     EXPECT_EQ(Calls{"button"}, Notify(buttonId, BN_CLICKED));
 }
@@ -447,7 +444,7 @@ TEST_F(MessageMap, ScrollBarOfTheWindowHasNoSender)
     EXPECT_EQ(nullptr, dialog.scrollSender);
 }
 
-TEST_F(MessageMap, DefaultOfPaintValidatesTheWindow)
+TEST_F(MessageMap, ContextOfAPaintHandlerValidatesTheWindow)
 {
     dialog.paints = 0;
     dialog.Invalidate();
@@ -489,9 +486,9 @@ TEST_F(MessageMap, ControlIsOfferedItsNotificationBeforeTheParent)
     ReflectingEdit edit;
     edit.SubclassWindow(dialog.Item(editId));
     edit.offered.clear();
-    EXPECT_EQ(Calls{"edit change"}, Notify(editId, EN_CHANGE));
+    EXPECT_EQ(Calls{"edit left"}, Notify(editId, EN_KILLFOCUS));
     EXPECT_EQ(std::vector<UINT>{WM_COMMAND}, edit.offered);
     edit.takes = true;
-    EXPECT_EQ(Calls{}, Notify(editId, EN_CHANGE));
+    EXPECT_EQ(Calls{}, Notify(editId, EN_KILLFOCUS));
 }
 } // namespace
