@@ -1,5 +1,7 @@
 #include "dialogs/base/CodePage.h"
 
+#include "dialogs/data/HostText.h"
+
 #include <gtest/gtest.h>
 #include <windows.h>
 
