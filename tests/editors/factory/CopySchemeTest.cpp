@@ -1,3 +1,4 @@
+#include "host/IConfigList.h"
 #include "tests/editors/fixtures/FactorySchemeFixture.h"
 
 namespace
@@ -9,13 +10,27 @@ class CopyScheme : public FactorySchemeFixture
 {
 protected:
     // What the host is told for one copy; the places are those of the call log.
+    static Calls CopiedValues(int source, int copy)
+    {
+        return {"ISchemeList[factory].AddScheme()",
+                "ISchemeParams[factory." + std::to_string(copy) + "].CopyFrom(factory." + std::to_string(source) + ")"};
+    }
     static Calls Copied(int source, int copy, int config)
     {
-        const std::string place = std::to_string(copy);
-        return {"ISchemeList[factory].AddScheme()",
-                "ISchemeParams[factory." + place + "].CopyFrom(factory." + std::to_string(source) + ")",
-                "IPrintScheme[" + place + "].SetConfigIndex(" + std::to_string(config) + ")",
-                "IPrintScheme[" + place + "].SetName(\"720X1200_Copy\")"};
+        const std::string object = "IPrintScheme[" + std::to_string(copy) + "].";
+        return CopiedValues(source, copy) +
+               Calls{object + "SetConfigIndex(" + std::to_string(config) + ")", object + "SetName(\"720X1200_Copy\")"};
+    }
+
+    // What makes the copy and gives it its configuration, the host's answers included.
+    Calls CallsOfACopy()
+    {
+        Calls found;
+        for (const std::string& call : Host().Log().Everything())
+            for (const char* part : {"AddScheme", "GetParams", "CopyFrom", "IConfigList.GetAt", "SetConfigIndex"})
+                if (call.find(part) != std::string::npos)
+                    found.push_back(call);
+        return found;
     }
 
     static ListBox ConfigsOf(const Window& dialog) { return dialog.Control<ListBox>(IDC_LIST_CFG); }
@@ -216,15 +231,50 @@ TEST_F(CopyScheme, SchemeThatVanishedIsNotCopied)
     });
 }
 
-TEST_F(CopyScheme, ConfigurationThatIsNullGetsNone)
+TEST_F(CopyScheme, IsMadeBeforeItsConfigurationIsLookedAt)
 {
-    m_faults.failing = {"IConfigList.GetAt(2)"};
     Run([this](FactoryEditor& editor) {
         const Window dialog = editor.OpenCopyDialog(kPoster);
         ConfigsOf(dialog).ClickRow(2);
         NewChanges();
         editor.Confirm(dialog);
-        EXPECT_EQ(Changes(), Calls());
+        EXPECT_EQ(CallsOfACopy(), (Calls{"ISchemeList[factory].AddScheme()", "IPrintScheme[4].GetParams()",
+                                         "IPrintScheme[0].GetParams()", "ISchemeParams[factory.4].CopyFrom(factory.0)",
+                                         "IConfigList.GetAt(2)", "IPrintScheme[4].SetConfigIndex(2)"}));
+        editor.Cancel();
+    });
+}
+
+TEST_F(CopyScheme, ForAConfigurationThatIsNullStaysWithoutPlaceAndName)
+{
+    m_faults.failing = {"IConfigList.GetAt(1)"};
+    Run([this](FactoryEditor& editor) {
+        const Window dialog = editor.OpenCopyDialog(kBanner);
+        EXPECT_EQ(ConfigsOf(dialog).Rows(), (Texts{L"Fast", L"", L"Draft"}));
+        ConfigsOf(dialog).ClickRow(1);
+        ConfigsOf(dialog).ClickRow(2);
+        NewChanges();
+        editor.Confirm(dialog);
+        EXPECT_EQ(Changes(), CopiedValues(1, 4) + Copied(1, 5, 2));
+        editor.Cancel();
+    });
+    EXPECT_EQ(Factory(4).lampLL, Banner().lampLL);
+    EXPECT_EQ(Factory(4).name, "Banner");
+}
+
+TEST_F(CopyScheme, ForTheShownConfigurationThatVanishedLeavesTheListAlone)
+{
+    Run([this](FactoryEditor& editor) {
+        editor.Configs().ClickRow(1);
+        const Window dialog = editor.OpenCopyDialog(0);
+        ConfigsOf(dialog).ClickRow(1);
+        InHost(editor, [](IHostData& data) {
+            data.GetConfigList()->RemoveAt(2);
+            data.GetConfigList()->RemoveAt(1);
+        });
+        editor.Confirm(dialog);
+        EXPECT_EQ(Changes(), CopiedValues(2, 4));
+        EXPECT_EQ(editor.Schemes().Rows(), Texts{L"Photo"});
         editor.Cancel();
     });
 }
