@@ -4,10 +4,12 @@
 #include "tests/fuzz/CurrentInput.h"
 #include "tests/fuzz/IniGenerator.h"
 #include "tests/fuzz/LanguageInputs.h"
+#include "tests/support/ImportHook.h"
 #include "tests/support/RunLength.h"
 #include "tests/support/TempFolder.h"
 #include "tests/support/Utf16.h"
 
+#include <cstdlib>
 #include <gtest/gtest.h>
 #include <vector>
 #include <windows.h>
@@ -116,6 +118,14 @@ TEST_P(MutatedLanguageFile, ReadsAsTheSystemDoes)
 INSTANTIATE_TEST_SUITE_P(Seeds, MutatedLanguageFile, testing::Range(FirstSeed(), FirstSeed() + RunCount(5, 200)),
                          [](const auto& test) { return std::to_string(test.param); });
 
+constexpr std::size_t kTooLarge = 1 << 20;
+decltype(&std::malloc) allocate;
+
+void* AllocateLittle(std::size_t size)
+{
+    return size < kTooLarge ? allocate(size) : nullptr;
+}
+
 class LanguageFileOnDisk : public testing::Test
 {
 protected:
@@ -212,6 +222,20 @@ TEST_F(LanguageFileOnDisk, IsReadOnce)
 TEST_F(LanguageFileOnDisk, WithHalfACharacterAtItsEndLosesIt)
 {
     const std::wstring path = m_folder.Write(L"odd.ini", Utf16(L"[S]\r\nk=v") + "x");
+    EXPECT_EQ(CLanguageFile(path).GetText(L"S", L"k", L"DEF"), L"v");
+}
+
+TEST_F(LanguageFileOnDisk, ThatMemoryDoesNotHoldGivesDefaultsAndIsClosedAgain)
+{
+    const std::wstring path = m_folder.Write(L"large.ini", ValueLine("v") + std::string(kTooLarge, '\n'));
+    {
+        const ImportHook hook(GetModuleHandleW(nullptr), "malloc", reinterpret_cast<const void*>(&AllocateLittle));
+        allocate = hook.Original<decltype(allocate)>();
+        EXPECT_EQ(CLanguageFile(path).GetText(L"S", L"k", L"DEF"), L"DEF");
+    }
+    const HANDLE alone = CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    EXPECT_NE(alone, INVALID_HANDLE_VALUE) << "somebody has it open";
+    CloseHandle(alone);
     EXPECT_EQ(CLanguageFile(path).GetText(L"S", L"k", L"DEF"), L"v");
 }
 
