@@ -1,5 +1,12 @@
 #include "tests/editors/drivers/EditorWindow.h"
 
+void EditorWindow::Notify(int controlId, UINT notice) const
+{
+    const HWND control = m_dialog.Control(controlId).Handle();
+    PostMessageW(m_dialog.Handle(), WM_COMMAND, MAKEWPARAM(controlId, notice), reinterpret_cast<LPARAM>(control));
+    m_operator.Settle();
+}
+
 // The hidden placeholder has the same id as the tab control over it.
 TabStrip EditorWindow::Tab() const
 {

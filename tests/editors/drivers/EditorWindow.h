@@ -15,6 +15,8 @@ public:
     ListBox Configs() const { return m_dialog.Control<ListBox>(IDC_LIST_CFG); }
     bool IsEnabled(int controlId) const { return m_dialog.Control(controlId).IsEnabled(); }
     void Press(int buttonId) const { m_dialog.Control(buttonId).Click(); }
+    // What the control tells the dialog when it is used; the control may be disabled.
+    void Notify(int controlId, UINT notice) const;
     TabStrip Tab() const;
 
     // The dialog of the configuration on a row.
