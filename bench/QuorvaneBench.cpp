@@ -1,7 +1,8 @@
 #include "bench/EditorBench.h"
 #include "bench/LibraryBench.h"
-#include "bench/Machines.h"
 #include "resources/resource.h"
+#include "tests/machines/LargeMachines.h"
+#include "tests/machines/SampleMachine.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -8,7 +8,7 @@
 #include "refhost/MachineText.h"
 #include "tests/fuzz/ByteMutations.h"
 #include "tests/fuzz/OddTokens.h"
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 #include "tests/support/FileContent.h"
 
 using namespace refhost;
@@ -195,7 +195,7 @@ void Insert(std::vector<std::string_view>& tokens, std::size_t place, const std:
 
 MachineInputs::MachineInputs(const std::string& sample) : m_sample(ContentOf(sample))
 {
-    m_texts.push_back(FormatMachine(SmallMachine()));
+    m_texts.push_back(FormatMachine(DetailedMachine()));
     for (std::size_t i = 1; i < kMachines; ++i)
         m_texts.push_back(RandomMachineText(i));
 }

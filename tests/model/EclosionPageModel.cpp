@@ -1,7 +1,7 @@
 #include "tests/model/EclosionPageModel.h"
 
 #include "resources/resource.h"
-#include "tests/editors/drivers/CustomEclosionType.h"
+#include "tests/machines/CustomEclosionType.h"
 #include "tests/model/HostText.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "tests/model/ModelFixture.h"
 
+#include "tests/machines/RandomMachine.h"
 #include "tests/model/MachineDifference.h"
-#include "tests/model/RandomMachine.h"
 #include "tests/support/ThreadLocale.h"
 
 namespace

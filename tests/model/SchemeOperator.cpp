@@ -1,6 +1,6 @@
 #include "tests/model/SchemeOperator.h"
 
-#include "tests/editors/drivers/CustomEclosionType.h"
+#include "tests/machines/CustomEclosionType.h"
 
 namespace
 {

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/Quorvane.h"
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 
 using namespace refhost;
 
@@ -20,7 +20,7 @@ protected:
         return m_data->GetConfigList()->GetAt(config)->GetMode(mode);
     }
 
-    Host m_host{SmallMachine()};
+    Host m_host{DetailedMachine()};
     IHostData* m_data = m_host.Data();
 };
 
@@ -239,7 +239,7 @@ TEST(HostFaultsTest, ParamTableMayFillALongerEntry)
 {
     HostFaults faults;
     faults.paramEntryBytes = 8;
-    Host host(SmallMachine(), faults);
+    Host host(DetailedMachine(), faults);
     std::int32_t entry[3] = {7, 7, 7};
     host.Data()->GetParamTable(1015)->GetEntry(entry, 0);
     EXPECT_EQ(entry[0], 4);
@@ -325,7 +325,7 @@ TEST_F(HostTest, NumbersInTheLogAreNotUsedAgainAfterARemoval)
 
 TEST(RemovedObjects, CallOnARemovedModeIsAViolation)
 {
-    Host host(SmallMachine(), KeepingRemoved());
+    Host host(DetailedMachine(), KeepingRemoved());
     IPrintConfig* config = host.Data()->GetConfigList()->GetAt(0);
     IPrintMode* mode = config->GetMode(0);
     config->RemoveMode(0);
@@ -339,7 +339,7 @@ TEST(RemovedObjects, CallOnARemovedModeIsAViolation)
 
 TEST(RemovedObjects, WhatLiesBelowARemovedObjectIsRemovedToo)
 {
-    Host host(SmallMachine(), KeepingRemoved());
+    Host host(DetailedMachine(), KeepingRemoved());
     IPrintMode* mode = host.Data()->GetConfigList()->GetAt(0)->GetMode(0);
     ISchemeParams* params = host.Data()->GetFactorySchemeList()->GetAt(0)->GetParams();
     ICustomEclosion* eclosion = host.Data()->GetCustomEclosionSet()->GetEclosion(0);
@@ -357,7 +357,7 @@ TEST(RemovedObjects, WhatLiesBelowARemovedObjectIsRemovedToo)
 
 TEST(HostFaultsTest, ListsComeBackAsNull)
 {
-    Host host(SmallMachine(), Failing({"IHostData.*"}));
+    Host host(DetailedMachine(), Failing({"IHostData.*"}));
     EXPECT_EQ(host.Data()->GetConfigList(), nullptr);
     EXPECT_EQ(host.Data()->GetUserSchemeList(), nullptr);
     EXPECT_EQ(host.Data()->GetParamTable(1015), nullptr);
@@ -367,8 +367,9 @@ TEST(HostFaultsTest, ListsComeBackAsNull)
 
 TEST(HostFaultsTest, OnlyWhatIsNamedFails)
 {
-    Host host(SmallMachine(), Failing({"IConfigList.GetAt(1)", "IPrintConfig[*].AddMode()", "IConfigList.AddConfig(*)",
-                                       "ISchemeList[user].AddScheme()", "IPrintMode[*].GetName()"}));
+    Host host(DetailedMachine(),
+              Failing({"IConfigList.GetAt(1)", "IPrintConfig[*].AddMode()", "IConfigList.AddConfig(*)",
+                       "ISchemeList[user].AddScheme()", "IPrintMode[*].GetName()"}));
     IConfigList* configs = host.Data()->GetConfigList();
     EXPECT_EQ(configs->GetAt(1), nullptr);
     ASSERT_NE(configs->GetAt(0), nullptr);
@@ -383,7 +384,7 @@ TEST(HostFaultsTest, OnlyWhatIsNamedFails)
 
 TEST(HostFaultsTest, LargeDataIsServed)
 {
-    Machine machine = SmallMachine();
+    Machine machine = DetailedMachine();
     machine.configurations[0].name.assign(10000, 'N');
     machine.xResolutions.assign(10000, "dpi");
     Host host(machine);

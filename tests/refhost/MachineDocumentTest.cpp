@@ -5,7 +5,7 @@
 #include "host/Quorvane.h"
 #include "refhost/MachineFile.h"
 #include "refhost/program/LanguageFolders.h"
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 #include "tests/support/FileContent.h"
 #include "tests/support/TempFolder.h"
 
@@ -22,7 +22,7 @@ void SetPasses(IHostData* data, int passes)
 class MachineDocumentTest : public testing::Test
 {
 protected:
-    MachineDocumentTest() { SaveMachine(SmallMachine(), m_path); }
+    MachineDocumentTest() { SaveMachine(DetailedMachine(), m_path); }
 
     int PassesInFile() const { return LoadMachine(m_path).configurations[0].modes[0].passCount; }
 

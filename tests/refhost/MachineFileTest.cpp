@@ -5,7 +5,7 @@
 #include <iterator>
 #include <windows.h>
 
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 #include "tests/support/FileContent.h"
 #include "tests/support/TempFolder.h"
 
@@ -39,7 +39,7 @@ TEST(MachineFile, RefusalNamesTheFileAndLeavesItUntouched)
 {
     const TempFolder folder;
     const std::wstring path = folder.PathOf(L"machine.json");
-    const std::string content = SmallMachineWith("\"dotBits\": 2", "\"dotBits\": 300");
+    const std::string content = DetailedMachineFileWith("\"dotBits\": 2", "\"dotBits\": 300");
     WriteBytes(path, content);
     try
     {
@@ -66,8 +66,8 @@ TEST(MachineFile, SavedFileIsWholeAndAlone)
 {
     const TempFolder folder;
     const std::wstring path = folder.PathOf(L"\x673A\x5668.json");
-    SaveMachine(SmallMachine(), path);
-    Machine changed = SmallMachine();
+    SaveMachine(DetailedMachine(), path);
+    Machine changed = DetailedMachine();
     changed.name = "Changed";
     SaveMachine(changed, path);
     EXPECT_EQ(ContentOf(path), FormatMachine(changed));
@@ -79,27 +79,27 @@ TEST(MachineFile, UnfinishedSaveOfACrashIsHarmless)
 {
     const TempFolder folder;
     const std::wstring path = folder.PathOf(L"machine.json");
-    SaveMachine(SmallMachine(), path);
+    SaveMachine(DetailedMachine(), path);
     WriteBytes(path + L".new", "{\"format\": \"quorv");
     EXPECT_EQ(LoadMachine(path).name, "Small");
-    SaveMachine(SmallMachine(), path);
+    SaveMachine(DetailedMachine(), path);
     EXPECT_EQ(FileCount(folder), 1);
 }
 
 class FailingSave : public testing::Test
 {
 protected:
-    void SetUp() override { SaveMachine(SmallMachine(), m_path); }
+    void SetUp() override { SaveMachine(DetailedMachine(), m_path); }
 
     void ExpectOldFileAfterFailure(std::ptrdiff_t files = 1)
     {
-        Machine changed = SmallMachine();
+        Machine changed = DetailedMachine();
         changed.name = "Changed";
         EXPECT_NE(SaveError(changed, m_path).find("machine.json"), std::string::npos);
         EXPECT_EQ(FileCount(m_folder), files);
     }
 
-    void TearDown() override { EXPECT_EQ(ContentOf(m_path), FormatMachine(SmallMachine())); }
+    void TearDown() override { EXPECT_EQ(ContentOf(m_path), FormatMachine(DetailedMachine())); }
 
     TempFolder m_folder;
     std::wstring m_path = m_folder.PathOf(L"machine.json");
@@ -128,7 +128,7 @@ TEST_F(FailingSave, FileStaysWhenNothingCanBeWrittenBesideIt)
 TEST(MachineFile, MissingFolderIsAClearError)
 {
     const TempFolder folder;
-    const std::string error = SaveError(SmallMachine(), folder.PathOf(L"none\\machine.json"));
+    const std::string error = SaveError(DetailedMachine(), folder.PathOf(L"none\\machine.json"));
     EXPECT_NE(error.find("cannot write"), std::string::npos) << error;
     EXPECT_NE(error.find("none\\machine.json"), std::string::npos) << error;
 }

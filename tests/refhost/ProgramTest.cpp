@@ -3,7 +3,7 @@
 
 #include "refhost/MachineFile.h"
 #include "refhost/program/Editors.h"
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 #include "tests/support/BesideProgram.h"
 #include "tests/support/FileContent.h"
 #include "tests/support/TempFolder.h"
@@ -96,7 +96,7 @@ DWORD HostProgram::WaitForEnd()
 class ProgramTest : public testing::Test
 {
 protected:
-    ProgramTest() { SaveMachine(SmallMachine(), m_machine); }
+    ProgramTest() { SaveMachine(DetailedMachine(), m_machine); }
 
     // Runs a program that only says what is wrong.
     void ExpectComplaint(const std::wstring& arguments, DWORD exitCode, const std::string& text)

@@ -1,7 +1,7 @@
 #include "tests/robustness/HostileHost.h"
 #include "refhost/MachineFile.h"
+#include "tests/machines/WholeMachine.h"
 #include "tests/robustness/BlindOperator.h"
-#include "tests/robustness/WholeMachine.h"
 #include "tests/support/Controls.h"
 #include "tests/support/EditorRun.h"
 #include "tests/support/LanguageFolder.h"

@@ -1,7 +1,7 @@
 #include "tests/editors/drivers/FactoryEditor.h"
 #include "tests/editors/drivers/PrintModeEditor.h"
+#include "tests/machines/WholeMachine.h"
 #include "tests/robustness/HostileHost.h"
-#include "tests/robustness/WholeMachine.h"
 #include "tests/support/EditorRun.h"
 #include "tests/support/LanguageFolder.h"
 #include "tests/support/Library.h"

@@ -1,6 +1,6 @@
 #include "tests/editors/drivers/SchemeEditor.h"
 
-#include "tests/editors/drivers/CustomEclosionType.h"
+#include "tests/machines/CustomEclosionType.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
-#include "refhost/MachineFile.h"
+#include "refhost/MachineText.h"
 #include "tests/editors/fixtures/PrintModeFixture.h"
-#include "tests/support/BesideProgram.h"
+#include "tests/machines/SampleMachine.h"
 #include "tests/support/ThreadLocale.h"
 
 #include <algorithm>
@@ -365,7 +365,7 @@ void TakeAsShown(refhost::PrintMode& mode)
 TEST_F(BadInput, WalkingThroughTheSampleMachineChangesOnlyWhatThePagesCannotShow)
 {
     const ThreadLocale chinese(0x0804);
-    m_machine = refhost::LoadMachine(BesideProgram(L"samples\\machine.json"));
+    m_machine = SampleMachine();
     Look([](PrintModeEditor& editor) {
         for (int config = 0; config < editor.Configs().RowCount(); ++config)
         {

@@ -2,10 +2,9 @@
 
 #include "refhost/Machine.h"
 
-// The machines that are measured. A large one is the sample machine with more items of one kind, each with its own
-// name. Schemes are copies of the sample's schemes, all in the first configuration.
+// A machine with so many of one thing, each with a name of its own: copies in turn of those that it has. Copies of
+// schemes are all of the first configuration.
 
-refhost::Machine SampleMachine();
 refhost::Machine WithConfigs(refhost::Machine machine, int count);
 refhost::Machine WithFactorySchemes(refhost::Machine machine, int count);
 refhost::Machine WithUserSchemes(refhost::Machine machine, int count);

@@ -1,6 +1,6 @@
-#include "tests/robustness/WholeMachine.h"
+#include "tests/machines/WholeMachine.h"
 
-#include "tests/editors/SchemeMachine.h"
+#include "tests/machines/SchemeMachine.h"
 
 refhost::Machine WholeMachine()
 {

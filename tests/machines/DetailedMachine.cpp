@@ -1,4 +1,4 @@
-#include "tests/refhost/SmallMachine.h"
+#include "tests/machines/DetailedMachine.h"
 
 #include <stdexcept>
 
@@ -71,7 +71,7 @@ refhost::UserScheme UserSchemeNamed(const std::string& name)
 
 } // namespace
 
-refhost::Machine SmallMachine()
+refhost::Machine DetailedMachine()
 {
     refhost::Machine machine;
     machine.name = "Small";
@@ -92,9 +92,9 @@ refhost::Machine SmallMachine()
     return machine;
 }
 
-std::string SmallMachineWith(const std::string& text, const std::string& replacement)
+std::string DetailedMachineFileWith(const std::string& text, const std::string& replacement)
 {
-    std::string file = refhost::FormatMachine(SmallMachine());
+    std::string file = refhost::FormatMachine(DetailedMachine());
     const std::size_t place = file.find(text);
     if (place == std::string::npos || file.find(text, place + 1) != std::string::npos)
         throw std::logic_error("does not stand once in the file: " + text);

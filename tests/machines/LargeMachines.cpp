@@ -1,6 +1,4 @@
-#include "bench/Machines.h"
-
-#include "refhost/MachineFile.h"
+#include "tests/machines/LargeMachines.h"
 
 #include <string>
 #include <vector>
@@ -30,11 +28,6 @@ void KeepFirstConfig(std::vector<Scheme>& schemes)
     schemes = kept;
 }
 } // namespace
-
-refhost::Machine SampleMachine()
-{
-    return refhost::LoadMachine(L"samples\\machine.json");
-}
 
 refhost::Machine WithConfigs(refhost::Machine machine, int count)
 {

@@ -5,7 +5,7 @@
 #include "refhost/Machine.h"
 
 // Two configurations with two modes and one mode, two schemes of each kind, something in every list.
-refhost::Machine SmallMachine();
+refhost::Machine DetailedMachine();
 
 // Its file, with the text that stands once in it replaced.
-std::string SmallMachineWith(const std::string& text, const std::string& replacement);
+std::string DetailedMachineFileWith(const std::string& text, const std::string& replacement);

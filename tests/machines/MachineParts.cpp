@@ -1,4 +1,9 @@
-#include "tests/editors/Machines.h"
+#include "tests/machines/MachineParts.h"
+
+refhost::Machine EmptyMachine()
+{
+    return refhost::Machine();
+}
 
 refhost::PrintConfig Config(const std::string& name, const std::vector<std::string>& modes)
 {
@@ -15,21 +20,6 @@ refhost::PrintConfig Config(const std::string& name, const std::vector<std::stri
         config.modes.push_back(mode);
     }
     return config;
-}
-
-refhost::Machine SmallMachine()
-{
-    refhost::Machine machine;
-    machine.configurations = {Config("Fast", {"Fast-1", "Fast-2"}), Config("Fine", {"Fine-1"}), Config("Draft")};
-    machine.inkGroups = {{"Cyan", 1, 0, {}}, {"Magenta", 2, 1, {}}, {"Yellow", 3, 2, {}}, {"Black", 4, 3, {}}};
-    machine.xResolutions = {"360", "720", "1440"};
-    machine.headLayouts = {{"Left", 10, 0, {"None", "Normal", "Fine"}}, {"Right", 11, 0, {"None", "Sharp"}}};
-    return machine;
-}
-
-refhost::Machine EmptyMachine()
-{
-    return refhost::Machine();
 }
 
 refhost::FactoryScheme FactorySchemeOf(int config)

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "refhost/Machine.h"
-#include "tests/editors/drivers/CustomEclosionType.h"
+#include "tests/machines/CustomEclosionType.h"
 
 // A small machine for the tests of the scheme editors. Each scheme has values of its own, all within what the pages can
 // show.

@@ -1,6 +1,6 @@
-#include "tests/editors/SchemeMachine.h"
+#include "tests/machines/SchemeMachine.h"
 
-#include "tests/editors/Machines.h"
+#include "tests/machines/MachineParts.h"
 
 namespace
 {

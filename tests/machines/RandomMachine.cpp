@@ -1,4 +1,4 @@
-#include "tests/model/RandomMachine.h"
+#include "tests/machines/RandomMachine.h"
 
 #include <algorithm>
 
