@@ -22,23 +22,12 @@ bool IsInput(UINT message)
     return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
 }
 
-HFONT CreateBold(HFONT hFont)
+CGdiObjectOwner CreateBold(HFONT hFont)
 {
     LOGFONT font;
     ::GetObject(hFont, sizeof(font), &font);
     font.lfWeight = FW_BOLD;
-    return ::CreateFontIndirect(&font);
-}
-
-int TextHeight(HWND hWnd, HFONT hFont)
-{
-    HDC hdc = ::GetDC(hWnd);
-    HGDIOBJ hOldFont = ::SelectObject(hdc, hFont);
-    TEXTMETRIC metric;
-    ::GetTextMetrics(hdc, &metric);
-    ::SelectObject(hdc, hOldFont);
-    ::ReleaseDC(hWnd, hdc);
-    return metric.tmHeight;
+    return CGdiObjectOwner(::CreateFontIndirect(&font));
 }
 
 int HeaderHeight(const CWnd& header, RECT client)
@@ -105,7 +94,6 @@ END_MESSAGE_MAP()
 CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()
 {
     DestroyWindow();
-    ::DeleteObject(m_look.hBoldFont);
 }
 
 BOOL CMFCPropertyGridCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
@@ -298,25 +286,21 @@ BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, 
 
 void CMFCPropertyGridCtrl::OnPaint()
 {
-    PAINTSTRUCT ps;
-    HDC hdc = ::BeginPaint(m_hWnd, &ps);
+    const CPaintDC dc(this);
     const RECT rows = m_layout.RowsRect();
-    HDC hdcBuffer = ::CreateCompatibleDC(hdc);
-    HBITMAP hBitmap = ::CreateCompatibleBitmap(hdc, std::max(1L, rows.right), std::max(1L, rows.bottom));
-    HGDIOBJ hOldBitmap = ::SelectObject(hdcBuffer, hBitmap);
+    const CDrawingBuffer buffer(dc.m_hDC, std::max(1L, rows.right), std::max(1L, rows.bottom));
+    DrawRows(buffer.Get());
+    ::BitBlt(dc.m_hDC, 0, rows.top, rows.right, rows.bottom - rows.top, buffer.Get(), 0, rows.top, SRCCOPY);
+}
 
+void CMFCPropertyGridCtrl::DrawRows(HDC context)
+{
     m_look.bFocused = HasFocus();
-    const CPropertyGridPainter painter(hdcBuffer, m_layout, m_look);
+    const CPropertyGridPainter painter(context, m_layout, m_look);
     painter.DrawBackground();
     const int nEnd = std::min(m_layout.RowCount(), m_layout.TopRow() + m_layout.RowsPerPage() + 1);
     for (int nRow = m_layout.TopRow(); nRow < nEnd; ++nRow)
         painter.DrawRow(nRow, *GetProperty(nRow), nRow == m_nSelected);
-    ::BitBlt(hdc, 0, rows.top, rows.right, rows.bottom - rows.top, hdcBuffer, 0, rows.top, SRCCOPY);
-
-    ::SelectObject(hdcBuffer, hOldBitmap);
-    ::DeleteObject(hBitmap);
-    ::DeleteDC(hdcBuffer);
-    ::EndPaint(m_hWnd, &ps);
 }
 
 void CMFCPropertyGridCtrl::OnSize(UINT, int, int)
@@ -332,11 +316,11 @@ LRESULT CMFCPropertyGridCtrl::OnEraseBkgnd(WPARAM, LPARAM)
 LRESULT CMFCPropertyGridCtrl::OnSetFont(WPARAM wParam, LPARAM)
 {
     m_look.hFont = reinterpret_cast<HFONT>(wParam);
-    ::DeleteObject(m_look.hBoldFont);
-    m_look.hBoldFont = CreateBold(m_look.hFont);
+    m_boldFont = CreateBold(m_look.hFont);
+    m_look.hBoldFont = static_cast<HFONT>(m_boldFont.get());
     m_header.SendMessage(WM_SETFONT, wParam);
     m_dropDown.SendMessage(WM_SETFONT, wParam);
-    const int nText = TextHeight(m_hWnd, m_look.hFont);
+    const int nText = CTextMeasure(m_hWnd, m_look.hFont).Height();
     m_dropDown.SendMessage(LB_SETITEMHEIGHT, 0, nText + ::GetSystemMetrics(SM_CYEDGE));
     m_layout.SetRowHeight(nText + 3 * ::GetSystemMetrics(SM_CYEDGE));
     UpdateLayout();

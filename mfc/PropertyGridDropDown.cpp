@@ -1,5 +1,8 @@
 #include "PropertyGridDropDown.h"
 
+#include "GdiObjects.h"
+#include "ScopedValue.h"
+
 #include <algorithm>
 
 BEGIN_MESSAGE_MAP(CPropertyGridDropDown, CListBox)
@@ -40,19 +43,14 @@ void CPropertyGridDropDown::Fill(const std::vector<CString>& options, const CStr
 
 int CPropertyGridDropDown::WidestLine() const
 {
-    HDC hdc = ::GetDC(m_hWnd);
-    HGDIOBJ hOldFont = ::SelectObject(hdc, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    LONG nWidest = 0;
+    const CTextMeasure measure(m_hWnd, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
+    int nWidest = 0;
     for (int i = 0; i < GetCount(); ++i)
     {
         CString strLine;
         GetText(i, strLine);
-        SIZE size = {};
-        ::GetTextExtentPoint32(hdc, strLine, strLine.GetLength(), &size);
-        nWidest = std::max(nWidest, size.cx);
+        nWidest = std::max(nWidest, measure.Width(strLine));
     }
-    ::SelectObject(hdc, hOldFont);
-    ::ReleaseDC(m_hWnd, hdc);
     return nWidest;
 }
 
@@ -138,10 +136,8 @@ LRESULT CPropertyGridDropDown::OnSysKeyDown(WPARAM wParam, LPARAM)
 
 LRESULT CPropertyGridDropDown::OnTyped(WPARAM, LPARAM)
 {
-    m_bByKey = true;
-    const LRESULT result = Default();
-    m_bByKey = false;
-    return result;
+    const CScopedValue<bool> byKey(m_bByKey, true);
+    return Default();
 }
 
 LRESULT CPropertyGridDropDown::OnKillFocus(WPARAM, LPARAM)

@@ -1,5 +1,7 @@
 #include <afxpropertygridctrl.h>
 
+#include "GdiObjects.h"
+
 CPropertyGridPainter::CPropertyGridPainter(HDC hdc, const CPropertyGridLayout& layout, const PropertyGridLook& look)
     : m_hdc(hdc), m_layout(layout), m_look(look)
 {
@@ -73,11 +75,10 @@ void CPropertyGridPainter::DrawText(const RECT& cell, const wchar_t* pszText, in
 {
     RECT text = cell;
     ::InflateRect(&text, -2 * ::GetSystemMetrics(SM_CXEDGE), 0);
-    HGDIOBJ hOldFont = ::SelectObject(m_hdc, hFont);
+    const CSelectedObject font(m_hdc, hFont);
     ::SetBkMode(m_hdc, TRANSPARENT);
     ::SetTextColor(m_hdc, clrText);
     ::DrawTextW(m_hdc, pszText, nLength, &text, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
-    ::SelectObject(m_hdc, hOldFont);
 }
 
 void CPropertyGridPainter::Fill(const RECT& rect, COLORREF clr) const

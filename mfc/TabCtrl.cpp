@@ -1,5 +1,7 @@
 #include <afxtabctrl.h>
 
+#include "GdiObjects.h"
+
 #include <windowsx.h>
 
 namespace
@@ -38,13 +40,8 @@ bool WantsTabKey(HWND hWnd, const MSG& msg)
 
 int MinTabWidth(HWND hWnd)
 {
-    HDC hdc = ::GetDC(hWnd);
-    HGDIOBJ hOldFont = ::SelectObject(hdc, reinterpret_cast<HFONT>(::SendMessage(hWnd, WM_GETFONT, 0, 0)));
-    TEXTMETRIC metric;
-    ::GetTextMetrics(hdc, &metric);
-    ::SelectObject(hdc, hOldFont);
-    ::ReleaseDC(hWnd, hdc);
-    return 2 * metric.tmHeight;
+    const auto font = reinterpret_cast<HFONT>(::SendMessage(hWnd, WM_GETFONT, 0, 0));
+    return 2 * CTextMeasure(hWnd, font).Height();
 }
 } // namespace
 

@@ -1,22 +1,8 @@
 #include "AfxState.h"
+#include "ScopedValue.h"
 
 namespace
 {
-// Restores a value when the scope is left, by an exception too.
-template <typename T>
-class ScopedValue
-{
-public:
-    ScopedValue(T& target, const T& value) : m_target(target), m_old(target) { target = value; }
-    ~ScopedValue() { m_target = m_old; }
-    ScopedValue(const ScopedValue&) = delete;
-    ScopedValue& operator=(const ScopedValue&) = delete;
-
-private:
-    T& m_target;
-    T m_old;
-};
-
 bool IsNotification(UINT message)
 {
     return message == WM_COMMAND || message == WM_NOTIFY;
@@ -33,7 +19,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     msg.message = message;
     msg.wParam = wParam;
     msg.lParam = lParam;
-    const ScopedValue<MSG> current(AfxGetState().current, msg);
+    const CScopedValue<MSG> current(AfxGetState().current, msg);
     // The system's frames below cannot be unwound: an exception of a host's callback ends here.
     try
     {
@@ -139,7 +125,7 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
     AfxState& state = AfxGetState();
     if (!m_hWnd || state.hWndHeld == m_hWnd)
         return FALSE;
-    const ScopedValue<HWND> held(state.hWndHeld, m_hWnd);
+    const CScopedValue<HWND> held(state.hWndHeld, m_hWnd);
     CDataExchange dx(this, bSaveAndValidate);
     try
     {

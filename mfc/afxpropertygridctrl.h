@@ -10,6 +10,7 @@
 
 #include <afxwin.h>
 
+#include "GdiObjects.h"
 #include "PropertyGridDropDown.h"
 #include "PropertyGridLayout.h"
 #include "PropertyGridPainter.h"
@@ -103,6 +104,7 @@ protected:
 
 private:
     void CreateChildren();
+    void DrawRows(HDC context);
     void UpdateLayout();
     void UpdateScrollBar(BOOL bRedraw = TRUE);
     void UpdateColumns();
@@ -120,6 +122,7 @@ private:
     int m_nSelected = -1;
     CPropertyGridLayout m_layout;
     PropertyGridLook m_look;
+    CGdiObjectOwner m_boldFont;
     CWnd m_header;
     CPropertyGridDropDown m_dropDown;
     int m_nWheelRest = 0; // turns of the wheel that did not make up a whole line yet
