@@ -1,4 +1,5 @@
 #include "AfxState.h"
+#include "CaughtException.h"
 
 #include <algorithm>
 
@@ -115,6 +116,7 @@ INT_PTR CDialog::InitDialog(HWND hWnd)
     }
     catch (...)
     {
+        AfxTraceCaught("the initialisation of dialog", m_nIDTemplate);
         EndDialog(-1);
         return FALSE;
     }

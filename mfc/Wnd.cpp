@@ -1,4 +1,5 @@
 #include "AfxState.h"
+#include "CaughtException.h"
 #include "ScopedValue.h"
 
 namespace
@@ -27,6 +28,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     }
     catch (...)
     {
+        AfxTraceCaught("the window procedure, message", message);
         return 0;
     }
 }
