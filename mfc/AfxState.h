@@ -26,4 +26,10 @@ AfxState& AfxGetState();
 // window's top-level window with its last pop-up.
 HWND AfxGetModalOwner(CWnd* pParentWnd);
 
+// Whether the message comes from the keyboard or the mouse.
+inline bool AfxIsInput(UINT message)
+{
+    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
+}
+
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);

@@ -75,11 +75,6 @@ bool PreTranslate(MSG& msg)
     }
     return false;
 }
-
-bool IsInput(UINT message)
-{
-    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
-}
 } // namespace
 
 CDialog::~CDialog()
@@ -196,7 +191,7 @@ void CDialog::EndDialog(int nResult)
 
 BOOL CDialog::PreTranslateMessage(MSG* pMsg)
 {
-    return m_bModal && IsInput(pMsg->message) && ::IsDialogMessage(m_hWnd, pMsg);
+    return m_bModal && AfxIsInput(pMsg->message) && ::IsDialogMessage(m_hWnd, pMsg);
 }
 
 BOOL CDialog::OnInitDialog()

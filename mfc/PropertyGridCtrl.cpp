@@ -1,5 +1,7 @@
 #include <afxpropertygridctrl.h>
 
+#include "AfxState.h"
+
 #include <windowsx.h>
 
 #include <algorithm>
@@ -16,11 +18,6 @@ enum ChildId : UINT
     ID_HEADER = 1,
     ID_DROP_DOWN
 };
-
-bool IsInput(UINT message)
-{
-    return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
-}
 
 CGdiObjectOwner CreateBold(HFONT hFont)
 {
@@ -279,7 +276,7 @@ void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* pProp) co
 
 BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (IsInput(message) && !IsWindowEnabled())
+    if (AfxIsInput(message) && !IsWindowEnabled())
         return TRUE; // the system keeps input from a disabled window, other programs need not
     return CWnd::OnWndMsg(message, wParam, lParam, pResult);
 }
