@@ -1,5 +1,6 @@
 #include "dialogs/base/DlgPrintModeAddCfg.h"
 
+#include "dialogs/data/HostText.h"
 #include "resources/resource.h"
 
 CDlgPrintModeAddCfg::CDlgPrintModeAddCfg() : CDialogEx(IDD_PRINT_MODE_ADD_CFG)

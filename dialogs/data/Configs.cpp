@@ -89,11 +89,13 @@ bool AddConfig(IPrintConfig& config)
     return list && list->AddConfig(&config) != 0;
 }
 
-void RemoveConfig(int config)
+bool RemoveConfig(int config)
 {
-    if (!ConfigAt(config))
-        return;
-    HostData().GetConfigList()->RemoveAt(static_cast<std::uint32_t>(config));
+    IConfigList* list = HostData().GetConfigList();
+    if (!At(list, config))
+        return false;
+    list->RemoveAt(static_cast<std::uint32_t>(config));
     RemoveSchemesOf(HostData().GetFactorySchemeList(), config);
     RemoveSchemesOf(HostData().GetUserSchemeList(), config);
+    return true;
 }

@@ -10,9 +10,6 @@
 
 // The host's print configurations. A configuration is named by its index in the host's list.
 
-// Of configurations, print modes and schemes.
-constexpr int MAX_NAME_CHARS = 60;
-
 // Null where the host has none at that index.
 IPrintConfig* ConfigAt(int config);
 
@@ -46,5 +43,5 @@ std::wstring NameFromValues(const ConfigValues& values);
 bool AddConfig(IPrintConfig& config);
 
 // Removes the configuration with its factory and user schemes. The other schemes keep their configuration index: it is
-// the host's to renumber.
-void RemoveConfig(int config);
+// the host's to renumber. False where the host has no such configuration.
+bool RemoveConfig(int config);

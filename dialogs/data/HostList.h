@@ -9,14 +9,14 @@ constexpr std::uint32_t MAX_HOST_COUNT = 1'000'000;
 // Ink groups of a set-up, and channels of a group. These lists are walked within each other, so their counts multiply.
 constexpr std::uint32_t MAX_INK_COUNT = 1024;
 
-// The one rule for every count of the host's.
+// The one rule for the count of each list that is walked.
 constexpr std::uint32_t SaneCount(std::uint32_t count, std::uint32_t most = MAX_HOST_COUNT)
 {
     return count <= most ? count : 0;
 }
 
-// How a host object counts its items and hands them out. Objects with other names for that specialise this where they
-// are declared for the dialogs.
+// How a host object counts its items and hands them out. Where its operations have other names than these, the header
+// of this folder that includes its interface specialises the template.
 template <class List>
 struct HostItems
 {

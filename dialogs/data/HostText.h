@@ -11,6 +11,9 @@
 std::optional<std::wstring> WideText(const char* narrow);
 std::optional<std::string> NarrowText(const wchar_t* wide);
 
+// Of configurations, print modes and schemes, as the operator types them.
+constexpr int MAX_NAME_CHARS = 60;
+
 // A longer source would overflow the size of its target.
 constexpr bool IsConvertibleLength(std::size_t length)
 {

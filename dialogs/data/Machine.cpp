@@ -12,9 +12,9 @@ constexpr std::uint32_t TABLE_WAVEFORM_COUNT = 1015;
 constexpr std::uint32_t TABLE_ECLOSION_TYPES = 2055;
 constexpr std::uint32_t TABLE_CUSTOM_LEVEL = 2057;
 
-constexpr std::uint32_t MAX_WAVEFORMS = 1024;
-
-// 255 stands for no type.
+// What a machine counts by an option is cut to what can be: these are values, not lists to walk. 255 stands for no
+// type.
+constexpr int MAX_WAVEFORMS = 1024;
 constexpr int MAX_TYPES = 255;
 
 // Only the host knows the size of an entry. The first 32 bits are read.
@@ -42,8 +42,7 @@ IActiveSetup* ActiveSetup()
 
 int WaveformCount()
 {
-    const std::int32_t count = TableValue(TABLE_WAVEFORM_COUNT, 0);
-    return static_cast<int>(SaneCount(static_cast<std::uint32_t>(count), MAX_WAVEFORMS));
+    return std::clamp(TableValue(TABLE_WAVEFORM_COUNT, 0), 0, MAX_WAVEFORMS);
 }
 
 bool OffersCustomLevel()

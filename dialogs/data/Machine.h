@@ -11,15 +11,13 @@
 #include "host/ILayoutList.h"
 #include "host/IMaterial.h"
 #include "host/IMaterialList.h"
-#include "host/IXResolution.h"
-#include "host/IXResolutionList.h"
 
 // What the machine offers: its active set-up, its option tables, and the lists that schemes choose from.
 
 // What the machine prints with now; null when the host tells nothing of it.
 IActiveSetup* ActiveSetup();
 
-// 0 where the host offers none. A scheme's waveform is read as a signed byte, so a count far beyond is junk.
+// 0 where the host offers none.
 int WaveformCount();
 
 bool OffersCustomLevel();

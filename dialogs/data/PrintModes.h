@@ -6,6 +6,8 @@
 #include "host/IHeadLayout.h"
 #include "host/IPrintConfig.h"
 #include "host/IPrintMode.h"
+#include "host/IXResolution.h"
+#include "host/IXResolutionList.h"
 
 // The print modes of a configuration, and what they can choose from.
 
@@ -43,7 +45,7 @@ constexpr std::uint8_t NO_DATA_MODE_VALUE = 255;
 constexpr std::uint8_t FIRST_DATA_MODE_VALUE = 0;
 
 // The first of the head's data modes whose name the predicate takes, by the value that a print mode stores for it;
-// negative for none. A mode that a byte cannot name, 255 being taken, is not looked at.
+// negative for none. A mode that a byte cannot name, 255 being taken, is passed over.
 template <class IsName>
 int FindDataMode(IHeadLayout& head, IsName isName)
 {

@@ -30,21 +30,26 @@ IPrintScheme* FactorySchemeOf(int id)
     return IsUserSchemeId(id) ? BaseSchemeOf(UserSchemeAt(id)) : FactorySchemeAt(id);
 }
 
-// The host appends. NO_SCHEME where its count is none that could name a scheme.
 AddedScheme<IPrintScheme> AddFactoryScheme()
 {
     IFactorySchemeList* list = HostData().GetFactorySchemeList();
     const bool hasRoom = list && list->GetCount() < FIRST_USER_SCHEME;
     IPrintScheme* scheme = hasRoom ? list->AddScheme() : nullptr;
-    return {scheme, static_cast<int>(CountOf(list)) - 1};
+    const int last = static_cast<int>(CountOf(list)) - 1;
+    return {scheme, IsFactorySchemeId(last) ? last : NO_SCHEME};
 }
 
 AddedScheme<IUserScheme> AddUserScheme()
 {
     IUserSchemeList* list = HostData().GetUserSchemeList();
     IUserScheme* scheme = list ? list->AddScheme() : nullptr;
-    const std::uint32_t count = CountOf(list);
-    return {scheme, count > 0 ? UserSchemeId(static_cast<int>(count) - 1) : NO_SCHEME};
+    const int last = static_cast<int>(CountOf(list)) - 1;
+    return {scheme, last >= 0 ? UserSchemeId(last) : NO_SCHEME};
+}
+
+int FactorySchemeCount()
+{
+    return static_cast<int>(CountOf(HostData().GetFactorySchemeList()));
 }
 
 int UserSchemeCount()

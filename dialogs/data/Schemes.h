@@ -66,7 +66,8 @@ void ForEachUserSchemeOf(int config, Visitor visit)
     });
 }
 
-// What was added, and how to name it; null where the host refuses, and where a factory scheme would have no id left.
+// What was added, always at the end of its list, and its id. The scheme is null where the host refuses, and where a
+// factory scheme would have no id left. The id is NO_SCHEME where the host's count is none that could give one.
 template <class Scheme>
 struct AddedScheme
 {
@@ -77,7 +78,8 @@ struct AddedScheme
 AddedScheme<IPrintScheme> AddFactoryScheme();
 AddedScheme<IUserScheme> AddUserScheme();
 
-// All user schemes of all configurations.
+// Of all configurations.
+int FactorySchemeCount();
 int UserSchemeCount();
 
 // Nothing where the host has no such scheme. Later schemes of its list move down.

@@ -13,13 +13,13 @@ namespace
 class CNewConfig
 {
 public:
-    CNewConfig() : m_pConfig(HostData().CreateConfig()) {}
+    CNewConfig() : m_data(HostData()), m_pConfig(m_data.CreateConfig()) {}
     ~CNewConfig()
     {
         try
         {
             if (m_pConfig)
-                HostData().DestroyConfig(m_pConfig);
+                m_data.DestroyConfig(m_pConfig);
         }
         catch (...)
         {
@@ -33,6 +33,7 @@ public:
     IPrintConfig* Get() const { return m_pConfig; }
 
 private:
+    IHostData& m_data;
     IPrintConfig* m_pConfig;
 };
 } // namespace
@@ -129,7 +130,8 @@ void CDlgPrintMode::OnDeleteConfig()
     // The configuration's modes go with it: the pages must not keep one of them.
     if (IsAttachedModeListed())
         AttachMode(nullptr);
-    RemoveConfig(row);
+    if (!RemoveConfig(row))
+        return;
     m_lstConfigs.DeleteString(static_cast<UINT>(row));
     m_lstConfigs.SetCurSel(RowAfterDelete(row, m_lstConfigs.GetCount()));
     FillModeList(true);

@@ -1,7 +1,6 @@
 #include "dialogs/printmode/DlgPrintModeCmmn.h"
 
 #include "dialogs/base/Controls.h"
-#include "dialogs/data/Configs.h"
 #include "dialogs/data/Ink.h"
 #include "dialogs/data/Machine.h"
 #include "dialogs/data/NumberText.h"

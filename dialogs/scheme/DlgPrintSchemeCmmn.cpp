@@ -1,6 +1,5 @@
 #include "dialogs/scheme/DlgPrintSchemeCmmn.h"
 
-#include "dialogs/data/Configs.h"
 #include "dialogs/data/Machine.h"
 #include "dialogs/data/NumberText.h"
 #include "resources/resource.h"

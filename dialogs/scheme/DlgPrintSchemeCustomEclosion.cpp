@@ -161,7 +161,7 @@ void CDlgPrintSchemeCustomEclosion::OnAddMode()
     IEclosionMode* mode = eclosion->AddMode();
     if (!mode)
         return;
-    m_nCurMode = static_cast<int>(eclosion->GetModeCount()) - 1;
+    m_nCurMode = static_cast<int>(CountOf(eclosion)) - 1;
     eclosion->SetCurrentMode(m_nCurMode);
     ShowElements(mode);
     ShowRadios(eclosion);
@@ -299,8 +299,9 @@ void CDlgPrintSchemeCustomEclosion::EnableEditing()
     ICustomEclosion* eclosion = CurrentEclosion();
     IEclosionMode* mode = At(eclosion, m_nCurMode);
     const bool isEditable = eclosion && (m_bAllowLockedEdit || !eclosion->IsLocked());
-    const std::uint32_t modes = CountOf(eclosion);
-    const std::uint32_t elements = CountOf(mode);
+    // Not their sane counts: a list of which nobody knows how long it is must not get longer.
+    const std::uint32_t modes = eclosion ? eclosion->GetModeCount() : 0;
+    const std::uint32_t elements = mode ? mode->GetElementCount() : 0;
     EnableControl(m_btnAddMode, isEditable && modes < MAX_ECLOSION_MODES);
     EnableControl(m_btnDelMode, isEditable && mode && modes != 0);
     for (int id : RADIOS)

@@ -63,7 +63,7 @@ void CDlgPrintSchemeFcty::OnCopyScheme()
     if (dialog.DoModal() != IDOK || dialog.GetChosen().empty())
         return;
     const int sourceId = SelectedSchemeId();
-    if (static_cast<std::uint32_t>(sourceId) >= CountOf(HostData().GetFactorySchemeList()))
+    if (!IsFactorySchemeId(sourceId) || sourceId >= FactorySchemeCount())
         return;
     for (int config : dialog.GetChosen())
         CopyTo(config, sourceId);

@@ -2,6 +2,8 @@
 
 #include "resources/resource.h"
 
+#include <cwchar>
+
 CDlgPrintSchemeSapp::CDlgPrintSchemeSapp() : CSchemePage(IDD_SCHEME_SAPP) {}
 
 void CDlgPrintSchemeSapp::DoDataExchange(CDataExchange* pDX)
@@ -39,7 +41,10 @@ void CDlgPrintSchemeSapp::UpdateCtrlState()
 void CDlgPrintSchemeSapp::LoadFromScheme()
 {
     if (m_nSchemeId < 0)
+    {
+        DropRefusedOffset();
         return;
+    }
     if (IPrintScheme* scheme = FactorySchemeOf(m_nSchemeId))
     {
         m_nShownMode = GetField(*scheme, SchemeField::SmallFormatMode);
@@ -59,4 +64,16 @@ void CDlgPrintSchemeSapp::SaveToScheme()
         return;
     SetField(*scheme, SchemeField::SmallFormatMode, m_bUserEditor ? m_nShownMode : m_cmbSmallMode.GetCurSel());
     SetField(*scheme, SchemeField::SmallFormatOffset, m_nSmallOffset);
+}
+
+// A scheme that is deleted takes the unsaved text of its offset along, but the field stays: now locked, it must not ask
+// for a number.
+void CDlgPrintSchemeSapp::DropRefusedOffset()
+{
+    CString text;
+    GetDlgItem(IDC_EDIT_SMALL_OFFSET)->GetWindowText(text);
+    wchar_t* end = nullptr;
+    std::wcstol(text.Trim(), &end, 10);
+    if (end == text.GetString() || *end != L'\0')
+        UpdateData(FALSE);
 }

@@ -19,6 +19,8 @@ protected:
     void InitControls() override;
 
 private:
+    void DropRefusedOffset();
+
     CComboBox m_cmbSmallMode;
     int m_nSmallOffset = 0;
     int m_nShownMode = 1; // what a locked switch stands for, even a value that it has no row for

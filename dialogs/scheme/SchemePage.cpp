@@ -25,8 +25,18 @@ void CSchemePage::ShowScheme(int schemeId)
     m_nSchemeId = schemeId;
     if (!m_hWnd)
         return;
-    UpdateCtrlState();
-    LoadFromScheme();
+    try
+    {
+        UpdateCtrlState();
+        LoadFromScheme();
+    }
+    catch (...)
+    {
+        // Some controls still show the scheme before. Stored under the new id, its values would be lost.
+        ::OutputDebugString(L"Quorvane: an exception of the host left a page half loaded\n");
+        m_nSchemeId = NO_SCHEME;
+        throw;
+    }
 }
 
 int CSchemePage::ValueOf(SchemeField field, int fallback) const
@@ -50,10 +60,14 @@ template <class Scheme>
 void CSchemePage::LoadBound(Scheme& scheme, IPrintScheme* factory)
 {
     for (const BoundField& bound : m_vecFields)
-        if (!IsFactoryField(bound.field))
+    {
+        if (bound.list && !bound.view->show)
+            continue;
+        if (HasField(scheme, bound.field))
             ShowValue(bound, GetField(scheme, bound.field));
         else if (factory)
             ShowValue(bound, GetField(*factory, bound.field));
+    }
 }
 
 void CSchemePage::LoadFields(IPrintScheme& scheme)
@@ -71,7 +85,7 @@ void CSchemePage::SaveBound(Scheme& scheme) const
 {
     for (const BoundField& bound : m_vecFields)
         if (HasField(scheme, bound.field))
-            if (const std::optional<int> value = ShownValue(bound))
+            if (const std::optional<int> value = ValueOnScreen(bound))
                 SetField(scheme, bound.field, *value);
 }
 
@@ -89,11 +103,11 @@ void CSchemePage::ShowValue(const BoundField& bound, int value)
 {
     if (bound.number)
         *bound.number = value;
-    else if (bound.view->show)
+    else
         bound.view->show(*bound.list, value);
 }
 
-std::optional<int> CSchemePage::ShownValue(const BoundField& bound)
+std::optional<int> CSchemePage::ValueOnScreen(const BoundField& bound)
 {
     return bound.number ? *bound.number : bound.view->read(*bound.list);
 }

@@ -107,7 +107,7 @@ private:
     template <class Scheme>
     void SaveBound(Scheme& scheme) const;
     static void ShowValue(const BoundField& bound, int value);
-    static std::optional<int> ShownValue(const BoundField& bound);
+    static std::optional<int> ValueOnScreen(const BoundField& bound);
 
     std::vector<BoundField> m_vecFields;
 };

@@ -75,4 +75,16 @@ TEST_F(RefusedFactoryOffset, GivesWayToTheOneThatWasKeptInAConfigurationWithoutS
         editor.SaveAndQuit();
     });
 }
+
+TEST_F(RefusedOffset, OfADeletedSchemeGivesWayToTheOneThatWasLoaded)
+{
+    Run([](UserEditor& editor) {
+        editor.DeleteScheme(kYours);
+        Offset(editor).Type(L"abc");
+        editor.Press(IDC_BTN_DEL_SCHEME); // the divider is selected next
+        ExpectLocked(editor, L"12");
+        editor.Schemes().ClickRow(kPoster);
+        editor.SaveAndQuit();
+    });
+}
 } // namespace
