@@ -12,19 +12,19 @@ struct AfxState
     std::unordered_map<HWND, CWnd*> permanent;
     std::unordered_map<HWND, std::unique_ptr<CWnd>> temporary;
     std::vector<HWND> modalDialogs; // running modal dialogs, innermost last
-    HWND hWndHeld = nullptr;        // window whose control notifications are held back by UpdateData
+    HWND heldWindow = nullptr;      // window whose control notifications are held back by UpdateData
     MSG current = {};               // message being handled, for CWnd::Default
-    int nWaitCursors = 0;
-    HCURSOR hcurBeforeWait = nullptr;
-    CWinApp* pApp = nullptr;
-    HINSTANCE hResource = nullptr;
+    int waitCursors = 0;
+    HCURSOR cursorBeforeWait = nullptr;
+    CWinApp* app = nullptr;
+    HINSTANCE resources = nullptr;
 };
 
 AfxState& AfxGetState();
 
 // The window that a modal window of the framework belongs to: the innermost running modal dialog, else the active
 // window's top-level window with its last pop-up.
-HWND AfxGetModalOwner(CWnd* pParentWnd);
+HWND AfxGetModalOwner(CWnd* parent);
 
 // Whether the message comes from the keyboard or the mouse.
 inline bool AfxIsInput(UINT message)
@@ -32,4 +32,4 @@ inline bool AfxIsInput(UINT message)
     return (message >= WM_KEYFIRST && message <= WM_KEYLAST) || (message >= WM_MOUSEFIRST && message <= WM_MOUSELAST);
 }
 
-LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

@@ -8,25 +8,25 @@ AfxState& AfxGetState()
 {
     static AfxState state = [] {
         AfxState initial;
-        initial.hResource = AfxGetInstanceHandle();
+        initial.resources = AfxGetInstanceHandle();
         return initial;
     }();
     return state;
 }
 
-CWinApp::CWinApp(LPCTSTR lpszAppName) : m_pszAppName(lpszAppName)
+CWinApp::CWinApp(const wchar_t* appName) : m_pszAppName(appName)
 {
-    AfxGetState().pApp = this;
+    AfxGetState().app = this;
 }
 
 CWinApp::~CWinApp()
 {
-    AfxGetState().pApp = nullptr;
+    AfxGetState().app = nullptr;
 }
 
 CWinApp* AfxGetApp()
 {
-    return AfxGetState().pApp;
+    return AfxGetState().app;
 }
 
 HINSTANCE AfxGetInstanceHandle()
@@ -36,82 +36,82 @@ HINSTANCE AfxGetInstanceHandle()
 
 HINSTANCE AfxGetResourceHandle()
 {
-    return AfxGetState().hResource;
+    return AfxGetState().resources;
 }
 
-void AfxSetResourceHandle(HINSTANCE hInstResource)
+void AfxSetResourceHandle(HINSTANCE module)
 {
-    AfxGetState().hResource = hInstResource;
+    AfxGetState().resources = module;
 }
 
 namespace
 {
-class RegisteredClasses
+class CRegisteredClasses
 {
 public:
-    ~RegisteredClasses()
+    ~CRegisteredClasses()
     {
-        for (const std::wstring& strName : m_names)
-            ::UnregisterClass(strName.c_str(), AfxGetInstanceHandle());
+        for (const std::wstring& name : m_vecNames)
+            ::UnregisterClass(name.c_str(), AfxGetInstanceHandle());
     }
 
-    void Add(LPCTSTR pszName) { m_names.emplace_back(pszName); }
+    void Add(const wchar_t* name) { m_vecNames.emplace_back(name); }
 
 private:
-    std::vector<std::wstring> m_names;
+    std::vector<std::wstring> m_vecNames;
 };
 } // namespace
 
-BOOL AfxRegisterClass(const WNDCLASS* lpWndClass)
+BOOL AfxRegisterClass(const WNDCLASS* windowClass)
 {
-    static RegisteredClasses classes;
+    static CRegisteredClasses classes;
     WNDCLASS existing;
-    if (::GetClassInfo(lpWndClass->hInstance, lpWndClass->lpszClassName, &existing))
+    if (::GetClassInfo(windowClass->hInstance, windowClass->lpszClassName, &existing))
         return TRUE;
-    if (!::RegisterClass(lpWndClass))
+    if (!::RegisterClass(windowClass))
         return FALSE;
-    classes.Add(lpWndClass->lpszClassName);
+    classes.Add(windowClass->lpszClassName);
     return TRUE;
 }
 
-HWND AfxGetModalOwner(CWnd* pParentWnd)
+HWND AfxGetModalOwner(CWnd* parent)
 {
     const AfxState& state = AfxGetState();
-    HWND hWnd = pParentWnd ? pParentWnd->m_hWnd : nullptr;
-    if (!hWnd && !state.modalDialogs.empty())
+    HWND window = parent ? parent->m_hWnd : nullptr;
+    if (!window && !state.modalDialogs.empty())
         return state.modalDialogs.back();
-    if (!hWnd)
-        hWnd = ::GetActiveWindow();
-    if (!hWnd)
+    if (!window)
+        window = ::GetActiveWindow();
+    if (!window)
         return nullptr;
-    return ::GetLastActivePopup(::GetAncestor(hWnd, GA_ROOT));
+    return ::GetLastActivePopup(::GetAncestor(window, GA_ROOT));
 }
 
-int AfxMessageBox(LPCTSTR lpszText, UINT nType)
+int AfxMessageBox(const wchar_t* text, UINT type)
 {
-    const UINT nIcon = (nType & MB_ICONMASK) ? 0 : MB_ICONEXCLAMATION;
-    const CWinApp* pApp = AfxGetApp();
-    return ::MessageBox(AfxGetModalOwner(nullptr), lpszText, pApp ? pApp->m_pszAppName : L"", nType | nIcon);
+    const UINT icon = (type & MB_ICONMASK) ? 0 : MB_ICONEXCLAMATION;
+    const CWinApp* app = AfxGetApp();
+    return ::MessageBox(AfxGetModalOwner(nullptr), text, app ? app->m_pszAppName : L"", type | icon);
 }
 
 CWaitCursor::CWaitCursor()
 {
     AfxState& state = AfxGetState();
-    if (state.nWaitCursors++ == 0)
-        state.hcurBeforeWait = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
+    if (state.waitCursors++ == 0)
+        state.cursorBeforeWait = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
 }
 
 CWaitCursor::~CWaitCursor()
 {
     AfxState& state = AfxGetState();
-    if (--state.nWaitCursors == 0)
-        ::SetCursor(state.hcurBeforeWait);
+    if (--state.waitCursors == 0)
+        ::SetCursor(state.cursorBeforeWait);
 }
 
-BOOL CMenu::LoadMenu(UINT nIDResource)
+BOOL CMenu::LoadMenu(UINT resourceId)
 {
     DestroyMenu();
-    m_hMenu = ::LoadMenu(AfxGetResourceHandle(), MAKEINTRESOURCE(nIDResource));
+    m_hMenu = ::LoadMenu(AfxGetResourceHandle(), MAKEINTRESOURCE(resourceId));
     return m_hMenu != nullptr;
 }
 
@@ -119,7 +119,7 @@ BOOL CMenu::DestroyMenu()
 {
     if (!m_hMenu)
         return FALSE;
-    const BOOL bDestroyed = ::DestroyMenu(m_hMenu);
+    const BOOL destroyed = ::DestroyMenu(m_hMenu);
     m_hMenu = nullptr;
-    return bDestroyed;
+    return destroyed;
 }

@@ -2,67 +2,67 @@
 
 namespace
 {
-LPARAM TextParam(LPCTSTR lpsz)
+LPARAM TextParam(const wchar_t* text)
 {
-    return reinterpret_cast<LPARAM>(lpsz ? lpsz : L"");
+    return reinterpret_cast<LPARAM>(text ? text : L"");
 }
 
 // Some systems keep the old selection when asked for a row that does not exist.
-int SelectRow(const CWnd& wnd, UINT nSetMessage, int nCount, int nSelect)
+int SelectRow(const CWnd& wnd, UINT setMessage, int count, int wanted)
 {
-    const int nRow = nSelect >= 0 && nSelect < nCount ? nSelect : -1;
-    return static_cast<int>(wnd.SendMessage(nSetMessage, static_cast<WPARAM>(nRow)));
+    const int row = wanted >= 0 && wanted < count ? wanted : -1;
+    return static_cast<int>(wnd.SendMessage(setMessage, static_cast<WPARAM>(row)));
 }
 
-CString RowText(const CWnd& wnd, UINT nLengthMessage, UINT nTextMessage, int nIndex)
+CString RowText(const CWnd& wnd, UINT lengthMessage, UINT textMessage, int index)
 {
-    const LRESULT nLength = wnd.SendMessage(nLengthMessage, static_cast<WPARAM>(nIndex));
-    if (nLength < 0)
+    const LRESULT length = wnd.SendMessage(lengthMessage, static_cast<WPARAM>(index));
+    if (length < 0)
         return CString();
-    std::wstring buffer(static_cast<size_t>(nLength) + 1, L'\0');
-    wnd.SendMessage(nTextMessage, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(buffer.data()));
+    std::wstring buffer(static_cast<size_t>(length) + 1, L'\0');
+    wnd.SendMessage(textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
     return CString(buffer.c_str());
 }
 } // namespace
 
-int CListBox::SetCurSel(int nSelect)
+int CListBox::SetCurSel(int row)
 {
-    return SelectRow(*this, LB_SETCURSEL, GetCount(), nSelect);
+    return SelectRow(*this, LB_SETCURSEL, GetCount(), row);
 }
 
-int CListBox::AddString(LPCTSTR lpszItem)
+int CListBox::AddString(const wchar_t* text)
 {
-    return static_cast<int>(SendMessage(LB_ADDSTRING, 0, TextParam(lpszItem)));
+    return static_cast<int>(SendMessage(LB_ADDSTRING, 0, TextParam(text)));
 }
 
-int CListBox::InsertString(int nIndex, LPCTSTR lpszItem)
+int CListBox::InsertString(int index, const wchar_t* text)
 {
-    return static_cast<int>(SendMessage(LB_INSERTSTRING, static_cast<WPARAM>(nIndex), TextParam(lpszItem)));
+    return static_cast<int>(SendMessage(LB_INSERTSTRING, static_cast<WPARAM>(index), TextParam(text)));
 }
 
-void CListBox::GetText(int nIndex, CString& rString) const
+void CListBox::GetText(int index, CString& text) const
 {
-    rString = RowText(*this, LB_GETTEXTLEN, LB_GETTEXT, nIndex);
+    text = RowText(*this, LB_GETTEXTLEN, LB_GETTEXT, index);
 }
 
-int CComboBox::SetCurSel(int nSelect)
+int CComboBox::SetCurSel(int row)
 {
-    return SelectRow(*this, CB_SETCURSEL, GetCount(), nSelect);
+    return SelectRow(*this, CB_SETCURSEL, GetCount(), row);
 }
 
-int CComboBox::AddString(LPCTSTR lpszString)
+int CComboBox::AddString(const wchar_t* text)
 {
-    return static_cast<int>(SendMessage(CB_ADDSTRING, 0, TextParam(lpszString)));
+    return static_cast<int>(SendMessage(CB_ADDSTRING, 0, TextParam(text)));
 }
 
-void CComboBox::GetLBText(int nIndex, CString& rString) const
+void CComboBox::GetLBText(int index, CString& text) const
 {
-    rString = RowText(*this, CB_GETLBTEXTLEN, CB_GETLBTEXT, nIndex);
+    text = RowText(*this, CB_GETLBTEXTLEN, CB_GETLBTEXT, index);
 }
 
-void CDC::FillSolidRect(LPCRECT lpRect, COLORREF clr)
+void CDC::FillSolidRect(LPCRECT rect, COLORREF colour)
 {
-    const COLORREF clrOld = ::SetBkColor(m_hDC, clr);
-    ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, lpRect, nullptr, 0, nullptr);
-    ::SetBkColor(m_hDC, clrOld);
+    const COLORREF old = ::SetBkColor(m_hDC, colour);
+    ::ExtTextOut(m_hDC, 0, 0, ETO_OPAQUE, rect, nullptr, 0, nullptr);
+    ::SetBkColor(m_hDC, old);
 }

@@ -8,187 +8,188 @@
 
 namespace
 {
-[[noreturn]] void Refuse(CDataExchange* pDX, LPCTSTR pszPrompt)
+[[noreturn]] void Refuse(CDataExchange* exchange, const wchar_t* prompt)
 {
-    AfxMessageBox(pszPrompt);
-    pDX->Fail();
+    AfxMessageBox(prompt);
+    exchange->Fail();
 }
 
-CString ControlText(HWND hWnd)
+CString ControlText(HWND control)
 {
-    CString str;
-    CWnd::FromHandle(hWnd)->GetWindowText(str);
-    return str;
+    CString text;
+    CWnd::FromHandle(control)->GetWindowText(text);
+    return text;
 }
 
 // An equal text is not set again: that would move the caret and tell of a change that is none.
-void SetControlText(HWND hWnd, LPCTSTR pszText)
+void SetControlText(HWND control, const wchar_t* text)
 {
-    if (ControlText(hWnd) != pszText)
-        ::SetWindowText(hWnd, pszText);
+    if (ControlText(control) != text)
+        ::SetWindowText(control, text);
 }
 
-bool IsBlank(LPCTSTR psz)
+bool IsBlank(const wchar_t* text)
 {
-    while (std::iswspace(static_cast<wint_t>(*psz)))
-        ++psz;
-    return *psz == L'\0';
+    while (std::iswspace(static_cast<wint_t>(*text)))
+        ++text;
+    return *text == L'\0';
 }
 
-bool HasOnly(LPCTSTR psz, LPCTSTR pszAllowed)
+bool HasOnly(const wchar_t* text, const wchar_t* allowed)
 {
-    for (; *psz; ++psz)
-        if (!std::wcschr(pszAllowed, *psz) && !std::iswspace(static_cast<wint_t>(*psz)))
+    for (; *text; ++text)
+        if (!std::wcschr(allowed, *text) && !std::iswspace(static_cast<wint_t>(*text)))
             return false;
     return true;
 }
 } // namespace
 
-bool afx::ParseInt(LPCTSTR pszText, int& value)
+bool afx::ParseInt(const wchar_t* text, int& value)
 {
-    wchar_t* pszEnd = nullptr;
-    const long nParsed = std::wcstol(pszText, &pszEnd, 10); // clamps by itself: long has 32 bits here
-    if (pszEnd == pszText || !IsBlank(pszEnd))
+    wchar_t* end = nullptr;
+    const long parsed = std::wcstol(text, &end, 10); // clamps by itself: long has 32 bits here
+    if (end == text || !IsBlank(end))
         return false;
-    value = static_cast<int>(nParsed);
+    value = static_cast<int>(parsed);
     return true;
 }
 
-bool afx::ParseFloat(LPCTSTR pszText, float& value)
+bool afx::ParseFloat(const wchar_t* text, float& value)
 {
-    if (!HasOnly(pszText, L"0123456789+-.eE"))
+    if (!HasOnly(text, L"0123456789+-.eE"))
         return false;
-    wchar_t* pszEnd = nullptr;
-    const double dParsed = std::wcstod(pszText, &pszEnd);
-    if (pszEnd == pszText || !IsBlank(pszEnd) || !std::isfinite(dParsed) || std::fabs(dParsed) > FLT_MAX)
+    wchar_t* end = nullptr;
+    const double parsed = std::wcstod(text, &end);
+    if (end == text || !IsBlank(end) || !std::isfinite(parsed) || std::fabs(parsed) > FLT_MAX)
         return false;
-    value = static_cast<float>(dParsed);
+    value = static_cast<float>(parsed);
     return true;
 }
 
-HWND CDataExchange::PrepareCtrl(int nIDC)
+HWND CDataExchange::PrepareCtrl(int id)
 {
-    HWND hWnd;
-    m_pDlgWnd->GetDlgItem(nIDC, &hWnd);
-    if (!hWnd)
+    HWND control;
+    m_pDlgWnd->GetDlgItem(id, &control);
+    if (!control)
         throw CNotSupportedException();
-    m_hWndLastControl = hWnd;
+    m_hLastControl = control;
     m_bEditLastControl = false;
-    return hWnd;
+    return control;
 }
 
-HWND CDataExchange::PrepareEditCtrl(int nIDC)
+HWND CDataExchange::PrepareEditCtrl(int id)
 {
-    HWND hWnd = PrepareCtrl(nIDC);
+    HWND control = PrepareCtrl(id);
     m_bEditLastControl = true;
-    return hWnd;
+    return control;
 }
 
 void CDataExchange::Fail()
 {
     // A control of a hidden page would swallow the keyboard unseen.
-    if (m_bSaveAndValidate && ::IsWindowVisible(m_hWndLastControl))
+    if (m_bSaveAndValidate && ::IsWindowVisible(m_hLastControl))
     {
-        ::SetFocus(m_hWndLastControl);
+        ::SetFocus(m_hLastControl);
         if (m_bEditLastControl)
-            ::SendMessage(m_hWndLastControl, EM_SETSEL, 0, -1);
+            ::SendMessage(m_hLastControl, EM_SETSEL, 0, -1);
     }
     throw CUserException();
 }
 
-void CDataExchange::LimitLastEdit(int nChars)
+void CDataExchange::LimitLastEdit(int chars)
 {
     if (m_bEditLastControl)
-        ::SendMessage(m_hWndLastControl, EM_LIMITTEXT, static_cast<WPARAM>(nChars), 0);
+        ::SendMessage(m_hLastControl, EM_LIMITTEXT, static_cast<WPARAM>(chars), 0);
 }
 
-void DDX_Text(CDataExchange* pDX, int nIDC, int& value)
+void DDX_Text(CDataExchange* exchange, int id, int& value)
 {
-    HWND hWnd = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    HWND control = exchange->PrepareEditCtrl(id);
+    if (exchange->m_bSaveAndValidate)
     {
-        if (!afx::ParseInt(ControlText(hWnd), value))
-            Refuse(pDX, L"Please enter an integer.");
+        if (!afx::ParseInt(ControlText(control), value))
+            Refuse(exchange, L"Please enter an integer.");
         return;
     }
-    CString str;
-    str.Format(L"%d", value);
-    SetControlText(hWnd, str);
+    CString text;
+    text.Format(L"%d", value);
+    SetControlText(control, text);
 }
 
-void DDX_Text(CDataExchange* pDX, int nIDC, float& value)
+void DDX_Text(CDataExchange* exchange, int id, float& value)
 {
-    HWND hWnd = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    HWND control = exchange->PrepareEditCtrl(id);
+    if (exchange->m_bSaveAndValidate)
     {
-        if (!afx::ParseFloat(ControlText(hWnd), value))
-            Refuse(pDX, L"Please enter a number.");
+        if (!afx::ParseFloat(ControlText(control), value))
+            Refuse(exchange, L"Please enter a number.");
         return;
     }
-    CString str;
-    str.Format(L"%.*g", FLT_DIG, static_cast<double>(value));
-    SetControlText(hWnd, str);
+    CString text;
+    text.Format(L"%.*g", FLT_DIG, static_cast<double>(value));
+    SetControlText(control, text);
 }
 
-void DDX_Text(CDataExchange* pDX, int nIDC, CString& value)
+void DDX_Text(CDataExchange* exchange, int id, CString& value)
 {
-    HWND hWnd = pDX->PrepareEditCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        value = ControlText(hWnd);
+    HWND control = exchange->PrepareEditCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = ControlText(control);
     else
-        SetControlText(hWnd, value);
+        SetControlText(control, value);
 }
 
-void DDX_Check(CDataExchange* pDX, int nIDC, int& value)
+void DDX_Check(CDataExchange* exchange, int id, int& value)
 {
-    HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
-        value = static_cast<int>(::SendMessage(hWnd, BM_GETCHECK, 0, 0));
+    HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
+        value = static_cast<int>(::SendMessage(control, BM_GETCHECK, 0, 0));
     else
-        ::SendMessage(hWnd, BM_SETCHECK, static_cast<WPARAM>(value >= 0 && value <= 2 ? value : 0), 0);
+        ::SendMessage(control, BM_SETCHECK, static_cast<WPARAM>(value >= 0 && value <= 2 ? value : 0), 0);
 }
 
-void DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
+void DDX_Radio(CDataExchange* exchange, int id, int& value)
 {
-    HWND hWnd = pDX->PrepareCtrl(nIDC);
-    if (pDX->m_bSaveAndValidate)
+    HWND control = exchange->PrepareCtrl(id);
+    if (exchange->m_bSaveAndValidate)
         value = -1;
-    int nIndex = 0;
+    int index = 0;
     do
     {
-        if (!(::SendMessage(hWnd, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON))
+        if (!(::SendMessage(control, WM_GETDLGCODE, 0, 0) & DLGC_RADIOBUTTON))
             continue;
-        if (!pDX->m_bSaveAndValidate)
-            ::SendMessage(hWnd, BM_SETCHECK, nIndex == value, 0);
-        else if (::SendMessage(hWnd, BM_GETCHECK, 0, 0))
-            value = nIndex;
-        ++nIndex;
-    } while ((hWnd = ::GetWindow(hWnd, GW_HWNDNEXT)) != nullptr && !(::GetWindowLong(hWnd, GWL_STYLE) & WS_GROUP));
+        if (!exchange->m_bSaveAndValidate)
+            ::SendMessage(control, BM_SETCHECK, index == value, 0);
+        else if (::SendMessage(control, BM_GETCHECK, 0, 0))
+            value = index;
+        ++index;
+    } while ((control = ::GetWindow(control, GW_HWNDNEXT)) != nullptr &&
+             !(::GetWindowLong(control, GWL_STYLE) & WS_GROUP));
 }
 
-void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control)
 {
-    if (!rControl.m_hWnd)
-        rControl.SubclassWindow(pDX->PrepareCtrl(nIDC));
+    if (!control.m_hWnd)
+        control.SubclassWindow(exchange->PrepareCtrl(id));
 }
 
-void DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars)
+void DDV_MaxChars(CDataExchange* exchange, const CString& value, int chars)
 {
-    if (pDX->m_bSaveAndValidate && value.GetLength() > nChars)
+    if (exchange->m_bSaveAndValidate && value.GetLength() > chars)
     {
-        CString str;
-        str.Format(L"Please enter no more than %d characters.", nChars);
-        Refuse(pDX, str);
+        CString text;
+        text.Format(L"Please enter no more than %d characters.", chars);
+        Refuse(exchange, text);
     }
-    if (!pDX->m_bSaveAndValidate)
-        pDX->LimitLastEdit(nChars);
+    if (!exchange->m_bSaveAndValidate)
+        exchange->LimitLastEdit(chars);
 }
 
-void DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal)
+void DDV_MinMaxInt(CDataExchange* exchange, int value, int min, int max)
 {
-    if (!pDX->m_bSaveAndValidate || (value >= minVal && value <= maxVal))
+    if (!exchange->m_bSaveAndValidate || (value >= min && value <= max))
         return;
-    CString str;
-    str.Format(L"Please enter an integer between %d and %d.", minVal, maxVal);
-    Refuse(pDX, str);
+    CString text;
+    text.Format(L"Please enter an integer between %d and %d.", min, max);
+    Refuse(exchange, text);
 }

@@ -12,17 +12,17 @@ namespace
 {
 // Keeps the owner of a modal dialog disabled; gives it back before the dialog's window dies, because the system looks
 // for the next window to activate while the dialog is being destroyed.
-class DisabledOwner
+class CDisabledOwner
 {
 public:
-    explicit DisabledOwner(HWND hWnd) : m_hWnd(hWnd && ::IsWindowEnabled(hWnd) ? hWnd : nullptr)
+    explicit CDisabledOwner(HWND window) : m_hWnd(window && ::IsWindowEnabled(window) ? window : nullptr)
     {
         if (m_hWnd)
             ::EnableWindow(m_hWnd, FALSE);
     }
-    ~DisabledOwner() { Enable(); }
-    DisabledOwner(const DisabledOwner&) = delete;
-    DisabledOwner& operator=(const DisabledOwner&) = delete;
+    ~CDisabledOwner() { Enable(); }
+    CDisabledOwner(const CDisabledOwner&) = delete;
+    CDisabledOwner& operator=(const CDisabledOwner&) = delete;
 
     void Enable()
     {
@@ -35,31 +35,31 @@ private:
     HWND m_hWnd;
 };
 
-class RunningDialog
+class CRunningDialog
 {
 public:
-    explicit RunningDialog(HWND hWnd) { AfxGetState().modalDialogs.push_back(hWnd); }
-    ~RunningDialog()
+    explicit CRunningDialog(HWND window) { AfxGetState().modalDialogs.push_back(window); }
+    ~CRunningDialog()
     {
         AfxState& state = AfxGetState();
         state.modalDialogs.pop_back();
         if (state.modalDialogs.empty())
             state.temporary.clear();
     }
-    RunningDialog(const RunningDialog&) = delete;
-    RunningDialog& operator=(const RunningDialog&) = delete;
+    CRunningDialog(const CRunningDialog&) = delete;
+    CRunningDialog& operator=(const CRunningDialog&) = delete;
 };
 
 // The windows from the message's target up to the innermost modal dialog; none when the target lies outside of it.
 // A pop-up's parent is its owner, so an unbounded walk would reach the dialogs below.
-std::vector<HWND> PreTranslationRoad(HWND hWndTarget)
+std::vector<HWND> PreTranslationRoad(HWND target)
 {
     const std::vector<HWND>& dialogs = AfxGetState().modalDialogs;
     std::vector<HWND> road;
-    for (HWND hWnd = hWndTarget; hWnd; hWnd = ::GetParent(hWnd))
+    for (HWND window = target; window; window = ::GetParent(window))
     {
-        road.push_back(hWnd);
-        if (!dialogs.empty() && hWnd == dialogs.back())
+        road.push_back(window);
+        if (!dialogs.empty() && window == dialogs.back())
             return road;
     }
     return {};
@@ -67,10 +67,10 @@ std::vector<HWND> PreTranslationRoad(HWND hWndTarget)
 
 bool PreTranslate(MSG& msg)
 {
-    for (HWND hWnd : PreTranslationRoad(msg.hwnd))
+    for (HWND window : PreTranslationRoad(msg.hwnd))
     {
-        CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-        if (pWnd && pWnd->PreTranslateMessage(&msg))
+        CWnd* object = CWnd::FromHandlePermanent(window);
+        if (object && object->PreTranslateMessage(&msg))
             return true;
     }
     return false;
@@ -82,82 +82,82 @@ CDialog::~CDialog()
     DestroyWindow();
 }
 
-HWND CDialog::CreateIndirect(UINT nIDTemplate, HWND hWndParent)
+HWND CDialog::CreateIndirect(UINT templateId, HWND parent)
 {
-    HINSTANCE hModule = AfxGetResourceHandle();
-    HRSRC hResource = ::FindResource(hModule, MAKEINTRESOURCE(nIDTemplate), RT_DIALOG);
-    HGLOBAL hTemplate = hResource ? ::LoadResource(hModule, hResource) : nullptr;
-    if (!hTemplate)
+    HINSTANCE module = AfxGetResourceHandle();
+    HRSRC resource = ::FindResource(module, MAKEINTRESOURCE(templateId), RT_DIALOG);
+    HGLOBAL dialogTemplate = resource ? ::LoadResource(module, resource) : nullptr;
+    if (!dialogTemplate)
         return nullptr;
     const INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
     ::InitCommonControlsEx(&controls);
-    return ::CreateDialogIndirectParam(hModule, static_cast<LPCDLGTEMPLATE>(::LockResource(hTemplate)), hWndParent,
+    return ::CreateDialogIndirectParam(module, static_cast<LPCDLGTEMPLATE>(::LockResource(dialogTemplate)), parent,
                                        &CDialog::DialogProc, reinterpret_cast<LPARAM>(this));
 }
 
-INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM lParam)
+INT_PTR CALLBACK CDialog::DialogProc(HWND window, UINT message, WPARAM, LPARAM lParam)
 {
     if (message != WM_INITDIALOG)
         return FALSE; // the object has seen the message already; the rest is the system's
-    return reinterpret_cast<CDialog*>(lParam)->InitDialog(hWnd);
+    return reinterpret_cast<CDialog*>(lParam)->InitDialog(window);
 }
 
-INT_PTR CDialog::InitDialog(HWND hWnd)
+INT_PTR CDialog::InitDialog(HWND window)
 {
-    SubclassWindow(hWnd);
+    SubclassWindow(window);
     try
     {
         return OnInitDialog();
     }
     catch (...)
     {
-        AfxTraceCaught("the initialisation of dialog", m_nIDTemplate);
+        AfxTraceCaught("the initialisation of dialog", m_nTemplateId);
         EndDialog(-1);
         return FALSE;
     }
 }
 
-BOOL CDialog::Create(UINT nIDTemplate, CWnd* pParentWnd)
+BOOL CDialog::Create(UINT templateId, CWnd* parent)
 {
-    return CreateIndirect(nIDTemplate, pParentWnd ? pParentWnd->m_hWnd : nullptr) != nullptr;
+    return CreateIndirect(templateId, parent ? parent->m_hWnd : nullptr) != nullptr;
 }
 
 INT_PTR CDialog::DoModal()
 {
-    HWND hWndOwner = AfxGetModalOwner(m_pParentWnd);
-    DisabledOwner owner(hWndOwner);
+    HWND owner = AfxGetModalOwner(m_pParent);
+    CDisabledOwner disabled(owner);
     m_bModal = true;
     m_bRunning = true;
     m_nModalResult = -1;
-    if (!CreateIndirect(m_nIDTemplate, hWndOwner))
+    if (!CreateIndirect(m_nTemplateId, owner))
     {
         m_bModal = m_bRunning = false;
         return -1;
     }
-    const int nResult = RunModalLoop(hWndOwner);
+    const int result = RunModalLoop(owner);
     m_bRunning = false;
-    const bool bWasActive = m_hWnd && ::GetActiveWindow() == m_hWnd;
-    owner.Enable();
+    const bool wasActive = m_hWnd && ::GetActiveWindow() == m_hWnd;
+    disabled.Enable();
     DestroyWindow();
-    if (bWasActive && ::IsWindow(hWndOwner))
-        ::SetActiveWindow(hWndOwner);
+    if (wasActive && ::IsWindow(owner))
+        ::SetActiveWindow(owner);
     m_bModal = false;
-    return nResult;
+    return result;
 }
 
-int CDialog::RunModalLoop(HWND hWndOwner)
+int CDialog::RunModalLoop(HWND owner)
 {
-    const RunningDialog running(m_hWnd);
+    const CRunningDialog running(m_hWnd);
     if (m_bRunning)
         ShowWindow(SW_SHOWNORMAL);
-    bool bTellIdle = true;
+    bool tellIdle = true;
     while (m_bRunning && m_hWnd)
     {
         MSG msg;
-        const bool bIdle = !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE);
-        if (bIdle && bTellIdle && ::IsWindow(hWndOwner))
-            ::SendMessage(hWndOwner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
-        bTellIdle = !bIdle;
+        const bool idle = !::PeekMessage(&msg, nullptr, 0, 0, PM_NOREMOVE);
+        if (idle && tellIdle && ::IsWindow(owner))
+            ::SendMessage(owner, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_hWnd));
+        tellIdle = !idle;
         if (m_bRunning && !PumpMessage())
             return -1;
     }
@@ -180,18 +180,18 @@ bool CDialog::PumpMessage()
     return true;
 }
 
-void CDialog::EndDialog(int nResult)
+void CDialog::EndDialog(int result)
 {
     if (!m_bRunning)
         return;
-    m_nModalResult = nResult;
+    m_nModalResult = result;
     m_bRunning = false;
     PostMessage(WM_NULL); // the loop may be waiting while this runs in a sent message
 }
 
-BOOL CDialog::PreTranslateMessage(MSG* pMsg)
+BOOL CDialog::PreTranslateMessage(MSG* message)
 {
-    return m_bModal && AfxIsInput(pMsg->message) && ::IsDialogMessage(m_hWnd, pMsg);
+    return m_bModal && AfxIsInput(message->message) && ::IsDialogMessage(m_hWnd, message);
 }
 
 BOOL CDialog::OnInitDialog()

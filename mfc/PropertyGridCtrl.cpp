@@ -11,7 +11,7 @@ const UINT AFX_WM_PROPERTY_CHANGED = ::RegisterWindowMessage(L"AFX_WM_PROPERTY_C
 
 namespace
 {
-const wchar_t g_szClassName[] = L"AfxPropertyGrid";
+const wchar_t CLASS_NAME[] = L"AfxPropertyGrid";
 
 enum ChildId : UINT
 {
@@ -19,12 +19,12 @@ enum ChildId : UINT
     ID_DROP_DOWN
 };
 
-CGdiObjectOwner CreateBold(HFONT hFont)
+CGdiObjectOwner CreateBold(HFONT font)
 {
-    LOGFONT font;
-    ::GetObject(hFont, sizeof(font), &font);
-    font.lfWeight = FW_BOLD;
-    return CGdiObjectOwner(::CreateFontIndirect(&font));
+    LOGFONT look;
+    ::GetObject(font, sizeof(look), &look);
+    look.lfWeight = FW_BOLD;
+    return CGdiObjectOwner(::CreateFontIndirect(&look));
 }
 
 int HeaderHeight(const CWnd& header, RECT client)
@@ -37,35 +37,35 @@ int HeaderHeight(const CWnd& header, RECT client)
     return pos.cy;
 }
 
-COLORREF CustomOrSystem(COLORREF clr, int nSystemColor)
+COLORREF CustomOrSystem(COLORREF colour, int systemColour)
 {
-    return clr == static_cast<COLORREF>(-1) ? ::GetSysColor(nSystemColor) : clr;
+    return colour == static_cast<COLORREF>(-1) ? ::GetSysColor(systemColour) : colour;
 }
 
-void InsertColumn(const CWnd& header, WPARAM nColumn)
+void InsertColumn(const CWnd& header, WPARAM column)
 {
-    wchar_t szNoText[] = L""; // a column inserted without any text never draws one
+    wchar_t noText[] = L""; // a column inserted without any text never draws one
     HDITEM item = {};
     item.mask = HDI_FORMAT | HDI_WIDTH | HDI_TEXT;
     item.fmt = HDF_LEFT | HDF_STRING;
-    item.pszText = szNoText;
-    header.SendMessage(HDM_INSERTITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+    item.pszText = noText;
+    header.SendMessage(HDM_INSERTITEM, column, reinterpret_cast<LPARAM>(&item));
 }
 
-void SetColumnText(const CWnd& header, WPARAM nColumn, LPCTSTR lpszText)
+void SetColumnText(const CWnd& header, WPARAM column, const wchar_t* text)
 {
     HDITEM item = {};
     item.mask = HDI_TEXT;
-    item.pszText = const_cast<LPTSTR>(lpszText);
-    header.SendMessage(HDM_SETITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+    item.pszText = const_cast<wchar_t*>(text);
+    header.SendMessage(HDM_SETITEM, column, reinterpret_cast<LPARAM>(&item));
 }
 
-void SetColumnWidth(const CWnd& header, WPARAM nColumn, int nWidth)
+void SetColumnWidth(const CWnd& header, WPARAM column, int width)
 {
     HDITEM item = {};
     item.mask = HDI_WIDTH;
-    item.cxy = nWidth;
-    header.SendMessage(HDM_SETITEM, nColumn, reinterpret_cast<LPARAM>(&item));
+    item.cxy = width;
+    header.SendMessage(HDM_SETITEM, column, reinterpret_cast<LPARAM>(&item));
 }
 } // namespace
 
@@ -93,22 +93,22 @@ CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()
     DestroyWindow();
 }
 
-BOOL CMFCPropertyGridCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
+BOOL CMFCPropertyGridCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
-    WNDCLASS wndClass = {};
-    wndClass.style = CS_DBLCLKS;
-    wndClass.lpfnWndProc = &::DefWindowProc;
-    wndClass.hInstance = AfxGetInstanceHandle();
-    wndClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
-    wndClass.lpszClassName = g_szClassName;
-    if (!AfxRegisterClass(&wndClass))
+    WNDCLASS windowClass = {};
+    windowClass.style = CS_DBLCLKS;
+    windowClass.lpfnWndProc = &::DefWindowProc;
+    windowClass.hInstance = AfxGetInstanceHandle();
+    windowClass.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
+    windowClass.lpszClassName = CLASS_NAME;
+    if (!AfxRegisterClass(&windowClass))
         return FALSE;
-    if (!CreateEx(0, g_szClassName, nullptr, dwStyle | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, rect, pParentWnd, nID))
+    if (!CreateEx(0, CLASS_NAME, nullptr, style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, rect, parent, id))
         return FALSE;
-    m_look.bEnabled = IsWindowEnabled();
+    m_look.enabled = IsWindowEnabled();
     CreateChildren();
-    HFONT hFont = reinterpret_cast<HFONT>(pParentWnd->SendMessage(WM_GETFONT));
-    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(hFont ? hFont : ::GetStockObject(DEFAULT_GUI_FONT)));
+    HFONT font = reinterpret_cast<HFONT>(parent->SendMessage(WM_GETFONT));
+    SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font ? font : ::GetStockObject(DEFAULT_GUI_FONT)));
     return TRUE;
 }
 
@@ -121,59 +121,59 @@ void CMFCPropertyGridCtrl::CreateChildren()
     InsertColumn(m_header, 0);
     InsertColumn(m_header, 1);
     EnableHeaderCtrl();
-    m_dropDown.Create(this, ID_DROP_DOWN, [this](const CString& strValue) { ChangeValue(strValue); });
+    m_dropDown.Create(this, ID_DROP_DOWN, [this](const CString& value) { ChangeValue(value); });
 }
 
-void CMFCPropertyGridCtrl::EnableHeaderCtrl(BOOL bEnable, LPCTSTR lpszLeftColumn, LPCTSTR lpszRightColumn)
+void CMFCPropertyGridCtrl::EnableHeaderCtrl(BOOL enable, const wchar_t* leftColumn, const wchar_t* rightColumn)
 {
-    SetColumnText(m_header, 0, lpszLeftColumn);
-    SetColumnText(m_header, 1, lpszRightColumn);
-    m_header.ShowWindow(bEnable ? SW_SHOW : SW_HIDE);
+    SetColumnText(m_header, 0, leftColumn);
+    SetColumnText(m_header, 1, rightColumn);
+    m_header.ShowWindow(enable ? SW_SHOW : SW_HIDE);
     UpdateLayout();
 }
 
-void CMFCPropertyGridCtrl::EnableDescriptionArea([[maybe_unused]] BOOL bEnable)
+void CMFCPropertyGridCtrl::EnableDescriptionArea([[maybe_unused]] BOOL enable)
 {
-    assert(!bEnable);
+    assert(!enable);
 }
 
-void CMFCPropertyGridCtrl::SetAlphabeticMode([[maybe_unused]] BOOL bSet)
+void CMFCPropertyGridCtrl::SetAlphabeticMode([[maybe_unused]] BOOL set)
 {
-    assert(!bSet);
+    assert(!set);
 }
 
-void CMFCPropertyGridCtrl::SetVSDotNetLook(BOOL bSet)
+void CMFCPropertyGridCtrl::SetVSDotNetLook(BOOL set)
 {
-    m_look.bStrip = bSet;
+    m_look.hasStrip = set;
     Invalidate(FALSE);
 }
 
-void CMFCPropertyGridCtrl::MarkModifiedProperties(BOOL bMark, BOOL bRedraw)
+void CMFCPropertyGridCtrl::MarkModifiedProperties(BOOL mark, BOOL redraw)
 {
-    m_look.bMarkModified = bMark;
-    if (bRedraw)
+    m_look.marksModified = mark;
+    if (redraw)
         Invalidate(FALSE);
 }
 
-void CMFCPropertyGridCtrl::SetCustomColors(COLORREF clrBackground, COLORREF clrText, COLORREF clrGroupBackground,
-                                           COLORREF, COLORREF, COLORREF, COLORREF clrLine)
+void CMFCPropertyGridCtrl::SetCustomColors(COLORREF background, COLORREF text, COLORREF groupBackground, COLORREF,
+                                           COLORREF, COLORREF, COLORREF line)
 {
-    m_look.clrBackground = CustomOrSystem(clrBackground, COLOR_WINDOW);
-    m_look.clrText = CustomOrSystem(clrText, COLOR_WINDOWTEXT);
-    m_look.clrStrip = CustomOrSystem(clrGroupBackground, COLOR_BTNFACE);
-    m_look.clrLine = CustomOrSystem(clrLine, COLOR_BTNFACE);
+    m_look.background = CustomOrSystem(background, COLOR_WINDOW);
+    m_look.text = CustomOrSystem(text, COLOR_WINDOWTEXT);
+    m_look.strip = CustomOrSystem(groupBackground, COLOR_BTNFACE);
+    m_look.line = CustomOrSystem(line, COLOR_BTNFACE);
     Invalidate(FALSE);
 }
 
-int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRedraw, BOOL bAdjustLayout)
+int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* property, BOOL redraw, BOOL adjustLayout)
 {
-    pProp->m_pGrid = this;
-    pProp->SetOriginalValue(pProp->GetValue());
-    m_properties.emplace_back(pProp);
+    property->m_pGrid = this;
+    property->SetOriginalValue(property->GetValue());
+    m_vecProperties.emplace_back(property);
     m_layout.SetRowCount(GetPropertyCount());
-    if (m_hWnd && bAdjustLayout)
+    if (m_hWnd && adjustLayout)
         UpdateScrollBar(FALSE);
-    if (m_hWnd && bRedraw)
+    if (m_hWnd && redraw)
         RedrawWindow(nullptr, RDW_INVALIDATE | RDW_FRAME); // the scroll bar once, however many rows are added
     return GetPropertyCount() - 1;
 }
@@ -182,7 +182,7 @@ void CMFCPropertyGridCtrl::RemoveAll()
 {
     m_dropDown.Close();
     m_nSelected = -1;
-    m_properties.clear();
+    m_vecProperties.clear();
     UpdateLayout();
 }
 
@@ -201,7 +201,7 @@ void CMFCPropertyGridCtrl::UpdateLayout()
     Invalidate(FALSE);
 }
 
-void CMFCPropertyGridCtrl::UpdateScrollBar(BOOL bRedraw)
+void CMFCPropertyGridCtrl::UpdateScrollBar(BOOL redraw)
 {
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
@@ -209,7 +209,7 @@ void CMFCPropertyGridCtrl::UpdateScrollBar(BOOL bRedraw)
     info.nMax = std::max(0, m_layout.RowCount() - 1);
     info.nPage = static_cast<UINT>(m_layout.RowsPerPage());
     info.nPos = m_layout.TopRow();
-    ::SetScrollInfo(m_hWnd, SB_VERT, &info, bRedraw);
+    ::SetScrollInfo(m_hWnd, SB_VERT, &info, redraw);
 }
 
 void CMFCPropertyGridCtrl::UpdateColumns()
@@ -219,21 +219,21 @@ void CMFCPropertyGridCtrl::UpdateColumns()
     SetColumnWidth(m_header, 1, m_layout.Width() - m_layout.SplitX());
 }
 
-void CMFCPropertyGridCtrl::ScrollTo(int nTopRow)
+void CMFCPropertyGridCtrl::ScrollTo(int topRow)
 {
-    const int nOldTop = m_layout.TopRow();
-    m_layout.ScrollTo(nTopRow);
-    if (m_layout.TopRow() == nOldTop)
+    const int oldTop = m_layout.TopRow();
+    m_layout.ScrollTo(topRow);
+    if (m_layout.TopRow() == oldTop)
         return;
     m_dropDown.Close();
     UpdateScrollBar();
     Invalidate(FALSE);
 }
 
-void CMFCPropertyGridCtrl::SelectRow(int nRow)
+void CMFCPropertyGridCtrl::SelectRow(int row)
 {
-    m_nSelected = nRow;
-    m_layout.ScrollIntoView(nRow);
+    m_nSelected = row;
+    m_layout.ScrollIntoView(row);
     UpdateScrollBar();
     Invalidate(FALSE);
 }
@@ -258,27 +258,27 @@ void CMFCPropertyGridCtrl::StepOption()
     ChangeValue(CString(*it));
 }
 
-void CMFCPropertyGridCtrl::ChangeValue(const CString& strValue)
+void CMFCPropertyGridCtrl::ChangeValue(const CString& value)
 {
-    CMFCPropertyGridProperty* pProp = GetCurSel();
-    if (!pProp || pProp->GetValue() == strValue)
+    CMFCPropertyGridProperty* property = GetCurSel();
+    if (!property || property->GetValue() == value)
         return;
-    pProp->SetValue(strValue);
-    OnPropertyChanged(pProp); // last: the parent may remove the rows
+    property->SetValue(value);
+    OnPropertyChanged(property); // last: the parent may remove the rows
 }
 
-void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* pProp) const
+void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* property) const
 {
     if (!NotificationsHeld())
         GetParent()->SendMessage(AFX_WM_PROPERTY_CHANGED, static_cast<WPARAM>(GetDlgCtrlID()),
-                                 reinterpret_cast<LPARAM>(pProp));
+                                 reinterpret_cast<LPARAM>(property));
 }
 
-BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+BOOL CMFCPropertyGridCtrl::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     if (AfxIsInput(message) && !IsWindowEnabled())
         return TRUE; // the system keeps input from a disabled window, other programs need not
-    return CWnd::OnWndMsg(message, wParam, lParam, pResult);
+    return CWnd::OnWndMsg(message, wParam, lParam, result);
 }
 
 void CMFCPropertyGridCtrl::OnPaint()
@@ -292,12 +292,12 @@ void CMFCPropertyGridCtrl::OnPaint()
 
 void CMFCPropertyGridCtrl::DrawRows(HDC context)
 {
-    m_look.bFocused = HasFocus();
+    m_look.focused = HasFocus();
     const CPropertyGridPainter painter(context, m_layout, m_look);
     painter.DrawBackground();
-    const int nEnd = std::min(m_layout.RowCount(), m_layout.TopRow() + m_layout.RowsPerPage() + 1);
-    for (int nRow = m_layout.TopRow(); nRow < nEnd; ++nRow)
-        painter.DrawRow(nRow, *GetProperty(nRow), nRow == m_nSelected);
+    const int end = std::min(m_layout.RowCount(), m_layout.TopRow() + m_layout.RowsPerPage() + 1);
+    for (int row = m_layout.TopRow(); row < end; ++row)
+        painter.DrawRow(row, *GetProperty(row), row == m_nSelected);
 }
 
 void CMFCPropertyGridCtrl::OnSize(UINT, int, int)
@@ -312,27 +312,27 @@ LRESULT CMFCPropertyGridCtrl::OnEraseBkgnd(WPARAM, LPARAM)
 
 LRESULT CMFCPropertyGridCtrl::OnSetFont(WPARAM wParam, LPARAM)
 {
-    m_look.hFont = reinterpret_cast<HFONT>(wParam);
-    m_boldFont = CreateBold(m_look.hFont);
-    m_look.hBoldFont = static_cast<HFONT>(m_boldFont.get());
+    m_look.font = reinterpret_cast<HFONT>(wParam);
+    m_boldFont = CreateBold(m_look.font);
+    m_look.boldFont = static_cast<HFONT>(m_boldFont.get());
     m_header.SendMessage(WM_SETFONT, wParam);
     m_dropDown.SendMessage(WM_SETFONT, wParam);
-    const int nText = CTextMeasure(m_hWnd, m_look.hFont).Height();
-    m_dropDown.SendMessage(LB_SETITEMHEIGHT, 0, nText + ::GetSystemMetrics(SM_CYEDGE));
-    m_layout.SetRowHeight(nText + 3 * ::GetSystemMetrics(SM_CYEDGE));
+    const int textHeight = CTextMeasure(m_hWnd, m_look.font).Height();
+    m_dropDown.SendMessage(LB_SETITEMHEIGHT, 0, textHeight + ::GetSystemMetrics(SM_CYEDGE));
+    m_layout.SetRowHeight(textHeight + 3 * ::GetSystemMetrics(SM_CYEDGE));
     UpdateLayout();
     return 0;
 }
 
 LRESULT CMFCPropertyGridCtrl::OnGetFont(WPARAM, LPARAM)
 {
-    return reinterpret_cast<LRESULT>(m_look.hFont);
+    return reinterpret_cast<LRESULT>(m_look.font);
 }
 
 LRESULT CMFCPropertyGridCtrl::OnEnable(WPARAM wParam, LPARAM)
 {
     m_dropDown.Close();
-    m_look.bEnabled = wParam != FALSE;
+    m_look.enabled = wParam != FALSE;
     m_header.EnableWindow(wParam != FALSE);
     Invalidate(FALSE);
     return 0;
@@ -357,12 +357,12 @@ LRESULT CMFCPropertyGridCtrl::OnGetDlgCode(WPARAM, LPARAM)
     return m_dropDown.IsOpen() ? DLGC_WANTALLKEYS : DLGC_WANTARROWS | DLGC_WANTCHARS;
 }
 
-int CMFCPropertyGridCtrl::RowAfterKey(WPARAM nKey) const
+int CMFCPropertyGridCtrl::RowAfterKey(WPARAM key) const
 {
-    const int nPage = m_layout.RowsPerPage();
-    const int nLast = GetPropertyCount() - 1;
-    const auto limited = [nLast](int nRow) { return std::max(0, std::min(nRow, nLast)); };
-    switch (nKey)
+    const int page = m_layout.RowsPerPage();
+    const int last = GetPropertyCount() - 1;
+    const auto limited = [last](int row) { return std::max(0, std::min(row, last)); };
+    switch (key)
     {
     case VK_UP:
     case VK_LEFT:
@@ -371,13 +371,13 @@ int CMFCPropertyGridCtrl::RowAfterKey(WPARAM nKey) const
     case VK_RIGHT:
         return limited(m_nSelected + 1);
     case VK_PRIOR:
-        return limited(m_nSelected - nPage);
+        return limited(m_nSelected - page);
     case VK_NEXT:
-        return limited(m_nSelected + nPage);
+        return limited(m_nSelected + page);
     case VK_HOME:
         return 0;
     case VK_END:
-        return nLast;
+        return last;
     default:
         return m_nSelected;
     }
@@ -387,11 +387,11 @@ LRESULT CMFCPropertyGridCtrl::OnKeyDown(WPARAM wParam, LPARAM lParam)
 {
     if (m_dropDown.IsOpen())
         return m_dropDown.SendMessage(WM_KEYDOWN, wParam, lParam);
-    if (m_properties.empty())
+    if (m_vecProperties.empty())
         return 0;
-    const int nRow = RowAfterKey(wParam);
-    if (nRow != m_nSelected)
-        SelectRow(nRow);
+    const int row = RowAfterKey(wParam);
+    if (row != m_nSelected)
+        SelectRow(row);
     if (wParam == VK_F4 || wParam == VK_F2 || wParam == VK_SPACE)
         OpenDropDown();
     return 0;
@@ -410,15 +410,15 @@ LRESULT CMFCPropertyGridCtrl::OnSysKeyDown(WPARAM wParam, LPARAM lParam)
 
 LRESULT CMFCPropertyGridCtrl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
-    const bool bWasOpen = m_dropDown.IsOpen();
-    const int nOldRow = m_nSelected;
+    const bool wasOpen = m_dropDown.IsOpen();
+    const int oldRow = m_nSelected;
     SetFocus(); // closes the list
-    const int nRow = m_layout.RowAt(GET_Y_LPARAM(lParam));
-    if (nRow < 0)
+    const int row = m_layout.RowAt(GET_Y_LPARAM(lParam));
+    if (row < 0)
         return 0;
-    SelectRow(nRow);
-    const bool bInValue = GET_X_LPARAM(lParam) >= m_layout.SplitX();
-    if (bInValue && !(bWasOpen && nRow == nOldRow))
+    SelectRow(row);
+    const bool inValue = GET_X_LPARAM(lParam) >= m_layout.SplitX();
+    if (inValue && !(wasOpen && row == oldRow))
         OpenDropDown();
     return 0;
 }
@@ -426,10 +426,10 @@ LRESULT CMFCPropertyGridCtrl::OnLButtonDown(WPARAM, LPARAM lParam)
 LRESULT CMFCPropertyGridCtrl::OnLButtonDblClk(WPARAM, LPARAM lParam)
 {
     SetFocus(); // the first click may have opened the list
-    const int nRow = m_layout.RowAt(GET_Y_LPARAM(lParam));
-    if (nRow < 0)
+    const int row = m_layout.RowAt(GET_Y_LPARAM(lParam));
+    if (row < 0)
         return 0;
-    SelectRow(nRow);
+    SelectRow(row);
     StepOption();
     return 0;
 }
@@ -438,29 +438,29 @@ LRESULT CMFCPropertyGridCtrl::OnMouseWheel(WPARAM wParam, LPARAM)
 {
     if (m_dropDown.IsOpen())
         return 0; // the list would hang beside its row
-    UINT nLines = 3;
-    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &nLines, 0);
-    const int nStep = std::min(static_cast<int>(std::min(nLines, 1000u)), m_layout.RowsPerPage());
-    m_nWheelRest += GET_WHEEL_DELTA_WPARAM(wParam) * nStep;
-    const int nRows = m_nWheelRest / WHEEL_DELTA;
-    m_nWheelRest -= nRows * WHEEL_DELTA;
-    ScrollTo(m_layout.TopRow() - nRows);
+    UINT lines = 3;
+    ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
+    const int step = std::min(static_cast<int>(std::min(lines, 1000u)), m_layout.RowsPerPage());
+    m_nWheelRest += GET_WHEEL_DELTA_WPARAM(wParam) * step;
+    const int rows = m_nWheelRest / WHEEL_DELTA;
+    m_nWheelRest -= rows * WHEEL_DELTA;
+    ScrollTo(m_layout.TopRow() - rows);
     return 0;
 }
 
 int CMFCPropertyGridCtrl::TopRowAfterScroll(WPARAM wParam) const
 {
-    const int nTop = m_layout.TopRow();
+    const int top = m_layout.TopRow();
     switch (LOWORD(wParam))
     {
     case SB_LINEUP:
-        return nTop - 1;
+        return top - 1;
     case SB_LINEDOWN:
-        return nTop + 1;
+        return top + 1;
     case SB_PAGEUP:
-        return nTop - m_layout.RowsPerPage();
+        return top - m_layout.RowsPerPage();
     case SB_PAGEDOWN:
-        return nTop + m_layout.RowsPerPage();
+        return top + m_layout.RowsPerPage();
     case SB_TOP:
         return 0;
     case SB_BOTTOM:
@@ -469,15 +469,15 @@ int CMFCPropertyGridCtrl::TopRowAfterScroll(WPARAM wParam) const
     case SB_THUMBTRACK:
         return ThumbRow(HIWORD(wParam));
     default:
-        return nTop;
+        return top;
     }
 }
 
 // The message has room for 16 bits only.
-int CMFCPropertyGridCtrl::ThumbRow(int nRowInMessage) const
+int CMFCPropertyGridCtrl::ThumbRow(int rowInMessage) const
 {
     if (m_layout.RowCount() <= 0xFFFF)
-        return nRowInMessage;
+        return rowInMessage;
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
     info.fMask = SIF_TRACKPOS;
@@ -496,18 +496,18 @@ LRESULT CMFCPropertyGridCtrl::OnNotify(WPARAM, LPARAM lParam)
     const NMHEADER& header = *reinterpret_cast<const NMHEADER*>(lParam);
     if (header.hdr.hwndFrom != m_header.m_hWnd)
         return 0;
-    const bool bWidth =
+    const bool isWidth =
         (header.hdr.code == HDN_ITEMCHANGING || header.hdr.code == HDN_ITEMCHANGED) && (header.pitem->mask & HDI_WIDTH);
-    if (!bWidth)
+    if (!isWidth)
         return 0;
     // The first column's divider moves within limits; the second column is what the first one leaves.
-    const int nWidth = header.pitem->cxy;
+    const int width = header.pitem->cxy;
     if (header.hdr.code == HDN_ITEMCHANGING)
-        return header.iItem == 0 ? !m_layout.IsSplitAllowed(nWidth) : nWidth != m_layout.Width() - m_layout.SplitX();
+        return header.iItem == 0 ? !m_layout.IsSplitAllowed(width) : width != m_layout.Width() - m_layout.SplitX();
     if (header.iItem == 0)
     {
-        m_layout.SetSplitX(nWidth);
-        SetColumnWidth(m_header, 1, m_layout.Width() - nWidth);
+        m_layout.SetSplitX(width);
+        SetColumnWidth(m_header, 1, m_layout.Width() - width);
         m_dropDown.Close();
         Invalidate(FALSE);
     }

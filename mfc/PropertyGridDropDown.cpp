@@ -13,18 +13,18 @@ BEGIN_MESSAGE_MAP(CPropertyGridDropDown, CListBox)
     ON_MESSAGE(WM_KILLFOCUS, &CPropertyGridDropDown::OnKillFocus)
 END_MESSAGE_MAP()
 
-BOOL CPropertyGridDropDown::Create(CWnd* pGrid, UINT nID, std::function<void(const CString&)> accepted)
+BOOL CPropertyGridDropDown::Create(CWnd* grid, UINT id, std::function<void(const CString&)> accepted)
 {
     m_accepted = std::move(accepted);
-    const DWORD dwStyle =
+    const DWORD style =
         WS_CHILD | WS_BORDER | WS_VSCROLL | WS_CLIPSIBLINGS | LBS_NOTIFY | LBS_HASSTRINGS | LBS_NOINTEGRALHEIGHT;
-    return CreateEx(0, WC_LISTBOX, nullptr, dwStyle, RECT{}, pGrid, nID);
+    return CreateEx(0, WC_LISTBOX, nullptr, style, RECT{}, grid, id);
 }
 
 void CPropertyGridDropDown::Open(const RECT& cell, const RECT& bounds, const std::vector<CString>& options,
-                                 const CString& strCurrent)
+                                 const CString& current)
 {
-    Fill(options, strCurrent);
+    Fill(options, current);
     const RECT rect = Place(cell, bounds);
     ::SetWindowPos(m_hWnd, HWND_TOP, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                    SWP_SHOWWINDOW);
@@ -32,43 +32,43 @@ void CPropertyGridDropDown::Open(const RECT& cell, const RECT& bounds, const std
     SetFocus();
 }
 
-void CPropertyGridDropDown::Fill(const std::vector<CString>& options, const CString& strCurrent)
+void CPropertyGridDropDown::Fill(const std::vector<CString>& options, const CString& current)
 {
     ResetContent();
-    for (const CString& strOption : options)
-        AddString(strOption);
-    const auto it = std::find(options.begin(), options.end(), strCurrent);
+    for (const CString& option : options)
+        AddString(option);
+    const auto it = std::find(options.begin(), options.end(), current);
     SetCurSel(it == options.end() ? -1 : static_cast<int>(it - options.begin()));
 }
 
 int CPropertyGridDropDown::WidestLine() const
 {
     const CTextMeasure measure(m_hWnd, reinterpret_cast<HFONT>(SendMessage(WM_GETFONT)));
-    int nWidest = 0;
+    int widest = 0;
     for (int i = 0; i < GetCount(); ++i)
     {
-        CString strLine;
-        GetText(i, strLine);
-        nWidest = std::max(nWidest, measure.Width(strLine));
+        CString line;
+        GetText(i, line);
+        widest = std::max(widest, measure.Width(line));
     }
-    return nWidest;
+    return widest;
 }
 
 RECT CPropertyGridDropDown::Place(const RECT& cell, const RECT& bounds) const
 {
-    const int nLine = static_cast<int>(SendMessage(LB_GETITEMHEIGHT));
-    const int nBorders = 2 * ::GetSystemMetrics(SM_CYBORDER);
-    const int nWanted = GetCount() * nLine + nBorders;
-    const int nBelow = bounds.bottom - cell.bottom;
-    const int nAbove = cell.top - bounds.top;
-    const bool bBelow = nWanted <= nBelow || nBelow >= nAbove;
-    const int nRoom = std::max(bBelow ? nBelow : nAbove, nLine + nBorders);
+    const int line = static_cast<int>(SendMessage(LB_GETITEMHEIGHT));
+    const int borders = 2 * ::GetSystemMetrics(SM_CYBORDER);
+    const int wanted = GetCount() * line + borders;
+    const int belowCell = bounds.bottom - cell.bottom;
+    const int above = cell.top - bounds.top;
+    const bool below = wanted <= belowCell || belowCell >= above;
+    const int room = std::max(below ? belowCell : above, line + borders);
     // Whole lines only: a cut line looks like a fault.
-    const int nHeight = nWanted <= nRoom ? nWanted : (nRoom - nBorders) / nLine * nLine + nBorders;
-    const int nMargins = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
-    const LONG nLeft = std::max(bounds.left, std::min(cell.left, cell.right - WidestLine() - nMargins));
-    const LONG nTop = bBelow ? cell.bottom : cell.top - nHeight;
-    return {nLeft, nTop, cell.right, nTop + nHeight};
+    const int height = wanted <= room ? wanted : (room - borders) / line * line + borders;
+    const int margins = 4 * ::GetSystemMetrics(SM_CXEDGE) + ::GetSystemMetrics(SM_CXVSCROLL);
+    const LONG left = std::max(bounds.left, std::min(cell.left, cell.right - WidestLine() - margins));
+    const LONG top = below ? cell.bottom : cell.top - height;
+    return {left, top, cell.right, top + height};
 }
 
 void CPropertyGridDropDown::Close()
@@ -86,12 +86,12 @@ void CPropertyGridDropDown::Accept()
 {
     if (!IsOpen())
         return;
-    const int nLine = GetCurSel();
-    CString strLine;
-    GetText(nLine, strLine);
+    const int line = GetCurSel();
+    CString text;
+    GetText(line, text);
     Close();
-    if (nLine >= 0)
-        m_accepted(strLine);
+    if (line >= 0)
+        m_accepted(text);
 }
 
 BOOL CPropertyGridDropDown::OnChildNotify(UINT message, WPARAM wParam, LPARAM, LRESULT*)

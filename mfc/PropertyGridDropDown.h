@@ -11,14 +11,14 @@ class CPropertyGridDropDown : public CListBox
 {
 public:
     // The function given is called with the text of the line that was accepted, after the list has closed.
-    BOOL Create(CWnd* pGrid, UINT nID, std::function<void(const CString&)> accepted);
+    BOOL Create(CWnd* grid, UINT id, std::function<void(const CString&)> accepted);
     // Opens below the cell, or above it when there is more room.
-    void Open(const RECT& cell, const RECT& bounds, const std::vector<CString>& options, const CString& strCurrent);
+    void Open(const RECT& cell, const RECT& bounds, const std::vector<CString>& options, const CString& current);
     void Close();
     bool IsOpen() const { return m_hWnd && (GetStyle() & WS_VISIBLE); }
 
 protected:
-    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     LRESULT OnGetDlgCode(WPARAM wParam, LPARAM lParam);
     LRESULT OnKeyDown(WPARAM wParam, LPARAM lParam);
@@ -29,7 +29,7 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    void Fill(const std::vector<CString>& options, const CString& strCurrent);
+    void Fill(const std::vector<CString>& options, const CString& current);
     RECT Place(const RECT& cell, const RECT& bounds) const;
     int WidestLine() const;
     void Accept();

@@ -3,16 +3,16 @@
 #include <algorithm>
 #include <cmath>
 
-void CPropertyGridLayout::SetClient(int nWidth, int nHeight)
+void CPropertyGridLayout::SetClient(int width, int height)
 {
-    m_nWidth = nWidth;
-    m_nHeight = nHeight;
+    m_nWidth = width;
+    m_nHeight = height;
     ScrollTo(m_nTop);
 }
 
-void CPropertyGridLayout::SetRowCount(int nRows)
+void CPropertyGridLayout::SetRowCount(int rows)
 {
-    m_nRows = nRows;
+    m_nRows = rows;
     ScrollTo(m_nTop);
 }
 
@@ -21,43 +21,43 @@ int CPropertyGridLayout::RowsPerPage() const
     return std::max(1, (m_nHeight - m_nHeader) / m_nRowHeight);
 }
 
-void CPropertyGridLayout::ScrollTo(int nTopRow)
+void CPropertyGridLayout::ScrollTo(int topRow)
 {
-    m_nTop = std::max(0, std::min(nTopRow, m_nRows - RowsPerPage()));
+    m_nTop = std::max(0, std::min(topRow, m_nRows - RowsPerPage()));
 }
 
-void CPropertyGridLayout::ScrollIntoView(int nRow)
+void CPropertyGridLayout::ScrollIntoView(int row)
 {
-    if (nRow < m_nTop)
-        ScrollTo(nRow);
-    else if (nRow >= m_nTop + RowsPerPage())
-        ScrollTo(nRow - RowsPerPage() + 1);
+    if (row < m_nTop)
+        ScrollTo(row);
+    else if (row >= m_nTop + RowsPerPage())
+        ScrollTo(row - RowsPerPage() + 1);
 }
 
 int CPropertyGridLayout::RowAt(int y) const
 {
     if (y < m_nHeader || y >= m_nHeight)
         return -1;
-    const int nRow = m_nTop + (y - m_nHeader) / m_nRowHeight;
-    return nRow < m_nRows ? nRow : -1;
+    const int row = m_nTop + (y - m_nHeader) / m_nRowHeight;
+    return row < m_nRows ? row : -1;
 }
 
-RECT CPropertyGridLayout::RowRect(int nRow) const
+RECT CPropertyGridLayout::RowRect(int row) const
 {
-    const int y = m_nHeader + (nRow - m_nTop) * m_nRowHeight;
+    const int y = m_nHeader + (row - m_nTop) * m_nRowHeight;
     return {0, y, m_nWidth, y + m_nRowHeight};
 }
 
-RECT CPropertyGridLayout::NameRect(int nRow) const
+RECT CPropertyGridLayout::NameRect(int row) const
 {
-    RECT rect = RowRect(nRow);
+    RECT rect = RowRect(row);
     rect.right = SplitX();
     return rect;
 }
 
-RECT CPropertyGridLayout::ValueRect(int nRow) const
+RECT CPropertyGridLayout::ValueRect(int row) const
 {
-    RECT rect = RowRect(nRow);
+    RECT rect = RowRect(row);
     rect.left = SplitX();
     return rect;
 }
@@ -69,18 +69,18 @@ RECT CPropertyGridLayout::RowsRect() const
 
 int CPropertyGridLayout::SplitX() const
 {
-    return ClampSplit(static_cast<int>(std::lround(m_dSplit * m_nWidth)));
+    return ClampSplit(static_cast<int>(std::lround(m_fSplit * m_nWidth)));
 }
 
 void CPropertyGridLayout::SetSplitX(int x)
 {
     if (m_nWidth > 0)
-        m_dSplit = static_cast<double>(ClampSplit(x)) / m_nWidth;
+        m_fSplit = static_cast<double>(ClampSplit(x)) / m_nWidth;
 }
 
 int CPropertyGridLayout::ClampSplit(int x) const
 {
     // A column never becomes so narrow that its divider or drop-down button cannot be reached.
-    const int nMin = 2 * m_nRowHeight;
-    return std::max(nMin, std::min(x, m_nWidth - nMin));
+    const int min = 2 * m_nRowHeight;
+    return std::max(min, std::min(x, m_nWidth - min));
 }

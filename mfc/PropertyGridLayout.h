@@ -6,23 +6,23 @@
 class CPropertyGridLayout
 {
 public:
-    void SetClient(int nWidth, int nHeight);
-    void SetHeaderHeight(int nHeight) { m_nHeader = nHeight; }
-    void SetRowHeight(int nHeight) { m_nRowHeight = nHeight; }
-    void SetRowCount(int nRows);
+    void SetClient(int width, int height);
+    void SetHeaderHeight(int height) { m_nHeader = height; }
+    void SetRowHeight(int height) { m_nRowHeight = height; }
+    void SetRowCount(int rows);
 
     int HeaderHeight() const { return m_nHeader; }
     int RowCount() const { return m_nRows; }
     int RowsPerPage() const; // whole rows, at least one
 
     int TopRow() const { return m_nTop; }
-    void ScrollTo(int nTopRow); // as far as there are rows
-    void ScrollIntoView(int nRow);
+    void ScrollTo(int topRow); // as far as there are rows
+    void ScrollIntoView(int row);
 
     int RowAt(int y) const; // -1: none
-    RECT RowRect(int nRow) const;
-    RECT NameRect(int nRow) const;
-    RECT ValueRect(int nRow) const;
+    RECT RowRect(int row) const;
+    RECT NameRect(int row) const;
+    RECT ValueRect(int row) const;
     RECT RowsRect() const; // everything below the header
 
     // The line between the columns keeps its share of the width when the grid is resized.
@@ -40,5 +40,5 @@ private:
     int m_nRowHeight = 1;
     int m_nRows = 0;
     int m_nTop = 0;
-    double m_dSplit = 0.5;
+    double m_fSplit = 0.5;
 };

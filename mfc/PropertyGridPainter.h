@@ -7,35 +7,35 @@ class CMFCPropertyGridProperty;
 
 struct PropertyGridLook
 {
-    COLORREF clrBackground = ::GetSysColor(COLOR_WINDOW);
-    COLORREF clrText = ::GetSysColor(COLOR_WINDOWTEXT);
-    COLORREF clrStrip = ::GetSysColor(COLOR_BTNFACE);
-    COLORREF clrLine = ::GetSysColor(COLOR_BTNFACE);
-    HFONT hFont = nullptr;
-    HFONT hBoldFont = nullptr;
-    bool bStrip = false;
-    bool bMarkModified = false;
-    bool bEnabled = true;
-    bool bFocused = false;
+    COLORREF background = ::GetSysColor(COLOR_WINDOW);
+    COLORREF text = ::GetSysColor(COLOR_WINDOWTEXT);
+    COLORREF strip = ::GetSysColor(COLOR_BTNFACE);
+    COLORREF line = ::GetSysColor(COLOR_BTNFACE);
+    HFONT font = nullptr;
+    HFONT boldFont = nullptr;
+    bool hasStrip = false;
+    bool marksModified = false;
+    bool enabled = true;
+    bool focused = false;
 };
 
 class CPropertyGridPainter
 {
 public:
-    CPropertyGridPainter(HDC hdc, const CPropertyGridLayout& layout, const PropertyGridLook& look);
+    CPropertyGridPainter(HDC context, const CPropertyGridLayout& layout, const PropertyGridLook& look);
 
     void DrawBackground() const;
-    void DrawRow(int nRow, const CMFCPropertyGridProperty& property, bool bSelected) const;
+    void DrawRow(int row, const CMFCPropertyGridProperty& property, bool selected) const;
 
 private:
-    void DrawName(int nRow, const CMFCPropertyGridProperty& property, bool bSelected) const;
-    void DrawValue(int nRow, const CMFCPropertyGridProperty& property, bool bSelected) const;
-    void DrawLines(int nRow) const;
-    void DrawText(const RECT& cell, const wchar_t* pszText, int nLength, COLORREF clrText, HFONT hFont) const;
-    void Fill(const RECT& rect, COLORREF clr) const;
+    void DrawName(int row, const CMFCPropertyGridProperty& property, bool selected) const;
+    void DrawValue(int row, const CMFCPropertyGridProperty& property, bool selected) const;
+    void DrawLines(int row) const;
+    void DrawText(const RECT& cell, const wchar_t* text, int length, COLORREF colour, HFONT font) const;
+    void Fill(const RECT& rect, COLORREF colour) const;
     int StripWidth() const;
 
-    HDC m_hdc;
+    HDC m_hContext;
     const CPropertyGridLayout& m_layout;
     const PropertyGridLook& m_look;
 };

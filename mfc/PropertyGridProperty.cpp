@@ -3,29 +3,29 @@
 #include <algorithm>
 #include <cassert>
 
-CMFCPropertyGridProperty::CMFCPropertyGridProperty(const CString& strName, const CString& strValue, LPCTSTR,
-                                                   DWORD_PTR dwData)
-    : m_strName(strName), m_strValue(strValue), m_strOriginal(strValue), m_dwData(dwData)
+CMFCPropertyGridProperty::CMFCPropertyGridProperty(const CString& name, const CString& value, const wchar_t*,
+                                                   DWORD_PTR data)
+    : m_strName(name), m_strValue(value), m_strOriginal(value), m_nData(data)
 {
 }
 
-void CMFCPropertyGridProperty::SetValue(const CString& strValue)
+void CMFCPropertyGridProperty::SetValue(const CString& value)
 {
-    m_strValue = strValue;
+    m_strValue = value;
     if (m_pGrid && m_pGrid->m_hWnd)
         m_pGrid->Invalidate(FALSE);
 }
 
-BOOL CMFCPropertyGridProperty::AddOption(LPCTSTR lpszOption, BOOL bInsertUnique)
+BOOL CMFCPropertyGridProperty::AddOption(const wchar_t* option, BOOL insertUnique)
 {
-    const CString strOption = lpszOption;
-    if (bInsertUnique && std::find(m_options.begin(), m_options.end(), strOption) != m_options.end())
+    const CString text = option;
+    if (insertUnique && std::find(m_vecOptions.begin(), m_vecOptions.end(), text) != m_vecOptions.end())
         return FALSE;
-    m_options.push_back(strOption);
+    m_vecOptions.push_back(text);
     return TRUE;
 }
 
-void CMFCPropertyGridProperty::AllowEdit([[maybe_unused]] BOOL bAllow)
+void CMFCPropertyGridProperty::AllowEdit([[maybe_unused]] BOOL allow)
 {
-    assert(!bAllow);
+    assert(!allow);
 }

@@ -9,9 +9,9 @@ namespace
 // Around a label, in pixels; the system's own would make seven tabs need arrows.
 constexpr int TAB_PADDING = 4;
 
-bool IsPressed(int nKey)
+bool IsPressed(int key)
 {
-    return ::GetKeyState(nKey) < 0;
+    return ::GetKeyState(key) < 0;
 }
 
 // How many tabs a key goes forward; 0 for every other message.
@@ -26,22 +26,22 @@ int StepOfKey(const MSG& msg)
     return 0;
 }
 
-bool HoldsFocus(const CWnd* pPage)
+bool HoldsFocus(const CWnd* page)
 {
-    HWND hWndFocus = ::GetFocus();
-    return hWndFocus && (hWndFocus == pPage->m_hWnd || ::IsChild(pPage->m_hWnd, hWndFocus));
+    HWND focus = ::GetFocus();
+    return focus && (focus == page->m_hWnd || ::IsChild(page->m_hWnd, focus));
 }
 
-bool WantsTabKey(HWND hWnd, const MSG& msg)
+bool WantsTabKey(HWND window, const MSG& msg)
 {
-    const LRESULT nCode = ::SendMessage(hWnd, WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&msg));
-    return (nCode & (DLGC_WANTTAB | DLGC_WANTALLKEYS)) != 0;
+    const LRESULT code = ::SendMessage(window, WM_GETDLGCODE, VK_TAB, reinterpret_cast<LPARAM>(&msg));
+    return (code & (DLGC_WANTTAB | DLGC_WANTALLKEYS)) != 0;
 }
 
-int MinTabWidth(HWND hWnd)
+int MinTabWidth(HWND window)
 {
-    const auto font = reinterpret_cast<HFONT>(::SendMessage(hWnd, WM_GETFONT, 0, 0));
-    return 2 * CTextMeasure(hWnd, font).Height();
+    const auto font = reinterpret_cast<HFONT>(::SendMessage(window, WM_GETFONT, 0, 0));
+    return 2 * CTextMeasure(window, font).Height();
 }
 } // namespace
 
@@ -51,48 +51,48 @@ BEGIN_MESSAGE_MAP(CMFCTabCtrl, CWnd)
     ON_MESSAGE(TCM_SETCURFOCUS, &CMFCTabCtrl::OnSetCurFocus)
 END_MESSAGE_MAP()
 
-BOOL CMFCTabCtrl::Create(Style, const RECT& rect, CWnd* pParentWnd, UINT nID, Location location, BOOL)
+BOOL CMFCTabCtrl::Create(Style, const RECT& rect, CWnd* parent, UINT id, Location location, BOOL)
 {
     const INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_TAB_CLASSES};
     ::InitCommonControlsEx(&controls);
-    const DWORD dwStyle = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
-                          TCS_FOCUSONBUTTONDOWN | (location == LOCATION_BOTTOM ? TCS_BOTTOM : 0u);
-    if (!CreateEx(WS_EX_CONTROLPARENT, WC_TABCONTROL, nullptr, dwStyle, rect, pParentWnd, nID))
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | TCS_FOCUSONBUTTONDOWN |
+                        (location == LOCATION_BOTTOM ? TCS_BOTTOM : 0u);
+    if (!CreateEx(WS_EX_CONTROLPARENT, WC_TABCONTROL, nullptr, style, rect, parent, id))
         return FALSE;
-    SendMessage(WM_SETFONT, static_cast<WPARAM>(pParentWnd->SendMessage(WM_GETFONT)));
+    SendMessage(WM_SETFONT, static_cast<WPARAM>(parent->SendMessage(WM_GETFONT)));
     SendMessage(TCM_SETPADDING, 0, MAKELPARAM(TAB_PADDING, TAB_PADDING));
     SendMessage(TCM_SETMINTABWIDTH, 0, MinTabWidth(m_hWnd));
     return TRUE;
 }
 
-void CMFCTabCtrl::AddTab(CWnd* pTabWnd, LPCTSTR lpszTabLabel, UINT, BOOL)
+void CMFCTabCtrl::AddTab(CWnd* page, const wchar_t* label, UINT, BOOL)
 {
     TCITEM item = {};
     item.mask = TCIF_TEXT;
-    item.pszText = const_cast<LPTSTR>(lpszTabLabel ? lpszTabLabel : L"");
-    SendMessage(TCM_INSERTITEM, m_pages.size(), reinterpret_cast<LPARAM>(&item));
-    ::SetParent(pTabWnd->m_hWnd, m_hWnd);
-    m_pages.push_back(pTabWnd);
+    item.pszText = const_cast<wchar_t*>(label ? label : L"");
+    SendMessage(TCM_INSERTITEM, m_vecPages.size(), reinterpret_cast<LPARAM>(&item));
+    ::SetParent(page->m_hWnd, m_hWnd);
+    m_vecPages.push_back(page);
     if (m_nActive < 0)
         m_nActive = 0;
-    pTabWnd->MoveWindow(PageRect());
-    pTabWnd->ShowWindow(pTabWnd == ActivePage() ? SW_SHOW : SW_HIDE);
+    page->MoveWindow(PageRect());
+    page->ShowWindow(page == ActivePage() ? SW_SHOW : SW_HIDE);
 }
 
-BOOL CMFCTabCtrl::SetActiveTab(int iTab)
+BOOL CMFCTabCtrl::SetActiveTab(int tab)
 {
-    if (iTab < 0 || iTab >= GetTabsNum())
+    if (tab < 0 || tab >= GetTabsNum())
         return FALSE;
-    const bool bLeft = iTab == m_nActive || LeaveActivePage();
-    if (bLeft && iTab != m_nActive)
+    const bool left = tab == m_nActive || LeaveActivePage();
+    if (left && tab != m_nActive)
     {
-        CWnd* pOldPage = ActivePage();
-        m_nActive = iTab;
+        CWnd* oldPage = ActivePage();
+        m_nActive = tab;
         ActivePage()->ShowWindow(SW_SHOW);
-        pOldPage->ShowWindow(SW_HIDE);
+        oldPage->ShowWindow(SW_HIDE);
     }
     SendMessage(TCM_SETCURSEL, static_cast<WPARAM>(m_nActive)); // sends no notification
-    return bLeft;
+    return left;
 }
 
 // Takes the focus out of the active page while the page is still visible, so that an edit there gets its kill-focus
@@ -105,50 +105,50 @@ bool CMFCTabCtrl::LeaveActivePage()
     return !HoldsFocus(ActivePage());
 }
 
-BOOL CMFCTabCtrl::PreTranslateMessage(MSG* pMsg)
+BOOL CMFCTabCtrl::PreTranslateMessage(MSG* message)
 {
-    const int nStep = StepOfKey(*pMsg);
-    if (m_pages.empty())
+    const int step = StepOfKey(*message);
+    if (m_vecPages.empty())
         return FALSE;
-    if (nStep == 0)
-        return MoveByTabKey(*pMsg);
-    SetActiveTab((m_nActive + nStep + GetTabsNum()) % GetTabsNum());
+    if (step == 0)
+        return MoveByTabKey(*message);
+    SetActiveTab((m_nActive + step + GetTabsNum()) % GetTabsNum());
     return TRUE;
 }
 
 HWND CMFCTabCtrl::FirstStopOfPage() const
 {
-    HWND hWndPage = ActivePage()->m_hWnd;
-    HWND hWndStop = ::GetNextDlgTabItem(hWndPage, nullptr, FALSE);
-    const bool bStop = hWndStop && (::GetWindowLong(hWndStop, GWL_STYLE) & WS_TABSTOP) != 0;
-    return bStop && ::IsChild(hWndPage, hWndStop) ? hWndStop : nullptr;
+    HWND page = ActivePage()->m_hWnd;
+    HWND stop = ::GetNextDlgTabItem(page, nullptr, FALSE);
+    const bool isStop = stop && (::GetWindowLong(stop, GWL_STYLE) & WS_TABSTOP) != 0;
+    return isStop && ::IsChild(page, stop) ? stop : nullptr;
 }
 
 // The system passes over a window that has controls of its own, so the ways to and from the strip are walked here.
 // Null: the system knows the way.
-HWND CMFCTabCtrl::TabTarget(HWND hWndFocus, bool bBack) const
+HWND CMFCTabCtrl::TabTarget(HWND focus, bool back) const
 {
-    HWND hWndRoot = ::GetAncestor(m_hWnd, GA_ROOT);
-    HWND hWndFirst = FirstStopOfPage();
-    if (!hWndFirst)
+    HWND root = ::GetAncestor(m_hWnd, GA_ROOT);
+    HWND first = FirstStopOfPage();
+    if (!first)
         return nullptr;
-    if (hWndFocus == m_hWnd)
-        return bBack ? ::GetNextDlgTabItem(hWndRoot, hWndFirst, TRUE) : hWndFirst;
-    if (bBack)
-        return hWndFocus == hWndFirst ? m_hWnd : nullptr;
-    const bool bEnters = !HoldsFocus(ActivePage()) && ::GetNextDlgTabItem(hWndRoot, hWndFocus, FALSE) == hWndFirst;
-    return bEnters ? m_hWnd : nullptr;
+    if (focus == m_hWnd)
+        return back ? ::GetNextDlgTabItem(root, first, TRUE) : first;
+    if (back)
+        return focus == first ? m_hWnd : nullptr;
+    const bool enters = !HoldsFocus(ActivePage()) && ::GetNextDlgTabItem(root, focus, FALSE) == first;
+    return enters ? m_hWnd : nullptr;
 }
 
 bool CMFCTabCtrl::MoveByTabKey(const MSG& msg)
 {
-    const bool bTab = msg.message == WM_KEYDOWN && msg.wParam == VK_TAB && !IsPressed(VK_CONTROL);
-    if (!bTab || !IsWindowVisible() || WantsTabKey(msg.hwnd, msg))
+    const bool isTab = msg.message == WM_KEYDOWN && msg.wParam == VK_TAB && !IsPressed(VK_CONTROL);
+    if (!isTab || !IsWindowVisible() || WantsTabKey(msg.hwnd, msg))
         return false;
-    HWND hWndTarget = TabTarget(msg.hwnd, IsPressed(VK_SHIFT));
-    if (!hWndTarget)
+    HWND target = TabTarget(msg.hwnd, IsPressed(VK_SHIFT));
+    if (!target)
         return false;
-    ::SendMessage(::GetAncestor(m_hWnd, GA_ROOT), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(hWndTarget), TRUE);
+    ::SendMessage(::GetAncestor(m_hWnd, GA_ROOT), WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(target), TRUE);
     return true;
 }
 
@@ -157,10 +157,10 @@ bool CMFCTabCtrl::MoveByTabKey(const MSG& msg)
 // other then only lets that go.
 LRESULT CMFCTabCtrl::OnLButtonDown(WPARAM, LPARAM lParam)
 {
-    const int nTab = TabAt(lParam);
-    if (nTab < 0 || nTab == m_nActive)
+    const int tab = TabAt(lParam);
+    if (tab < 0 || tab == m_nActive)
         return Default();
-    if (SetActiveTab(nTab))
+    if (SetActiveTab(tab))
         SetFocus();
     return 0;
 }
@@ -172,39 +172,39 @@ LRESULT CMFCTabCtrl::OnSetCurFocus(WPARAM wParam, LPARAM)
     return 0;
 }
 
-BOOL CMFCTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+BOOL CMFCTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    if (message != WM_NOTIFY || m_pages.empty())
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+    if (message != WM_NOTIFY || m_vecPages.empty())
+        return CWnd::OnChildNotify(message, wParam, lParam, result);
     switch (reinterpret_cast<const NMHDR*>(lParam)->code)
     {
     case TCN_SELCHANGING:
-        *pResult = !LeaveActivePage();
+        *result = !LeaveActivePage();
         return TRUE;
     case TCN_SELCHANGE:
         SetActiveTab(static_cast<int>(SendMessage(TCM_GETCURSEL)));
         return TRUE;
     default:
-        return CWnd::OnChildNotify(message, wParam, lParam, pResult);
+        return CWnd::OnChildNotify(message, wParam, lParam, result);
     }
 }
 
-void CMFCTabCtrl::OnSize(UINT nType, int cx, int cy)
+void CMFCTabCtrl::OnSize(UINT type, int cx, int cy)
 {
-    CWnd::OnSize(nType, cx, cy);
-    for (CWnd* pPage : m_pages)
-        pPage->MoveWindow(PageRect());
+    CWnd::OnSize(type, cx, cy);
+    for (CWnd* page : m_vecPages)
+        page->MoveWindow(PageRect());
 }
 
 void CMFCTabCtrl::PostNcDestroy()
 {
-    m_pages.clear();
+    m_vecPages.clear();
     m_nActive = -1;
 }
 
-int CMFCTabCtrl::TabAt(LPARAM lParamPoint) const
+int CMFCTabCtrl::TabAt(LPARAM point) const
 {
-    TCHITTESTINFO hit = {{GET_X_LPARAM(lParamPoint), GET_Y_LPARAM(lParamPoint)}, 0};
+    TCHITTESTINFO hit = {{GET_X_LPARAM(point), GET_Y_LPARAM(point)}, 0};
     return static_cast<int>(SendMessage(TCM_HITTEST, 0, reinterpret_cast<LPARAM>(&hit)));
 }
 

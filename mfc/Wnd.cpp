@@ -10,13 +10,13 @@ bool IsNotification(UINT message)
 }
 } // namespace
 
-LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam)
+LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
-    CWnd* pWnd = CWnd::FromHandlePermanent(hWnd);
-    if (!pWnd)
-        return ::DefWindowProc(hWnd, message, wParam, lParam);
+    CWnd* object = CWnd::FromHandlePermanent(window);
+    if (!object)
+        return ::DefWindowProc(window, message, wParam, lParam);
     MSG msg = {};
-    msg.hwnd = hWnd;
+    msg.hwnd = window;
     msg.message = message;
     msg.wParam = wParam;
     msg.lParam = lParam;
@@ -24,7 +24,7 @@ LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lPara
     // The system's frames below cannot be unwound: an exception of a host's callback ends here.
     try
     {
-        return pWnd->WindowProc(message, wParam, lParam);
+        return object->WindowProc(message, wParam, lParam);
     }
     catch (...)
     {
@@ -38,24 +38,24 @@ CWnd::~CWnd()
     UnsubclassWindow();
 }
 
-CWnd* CWnd::FromHandlePermanent(HWND hWnd)
+CWnd* CWnd::FromHandlePermanent(HWND window)
 {
     const auto& permanent = AfxGetState().permanent;
-    const auto it = permanent.find(hWnd);
+    const auto it = permanent.find(window);
     return it == permanent.end() ? nullptr : it->second;
 }
 
-CWnd* CWnd::FromHandle(HWND hWnd)
+CWnd* CWnd::FromHandle(HWND window)
 {
-    if (!hWnd)
+    if (!window)
         return nullptr;
-    if (CWnd* pWnd = FromHandlePermanent(hWnd))
-        return pWnd;
-    std::unique_ptr<CWnd>& pTemporary = AfxGetState().temporary[hWnd];
-    if (!pTemporary)
-        pTemporary = std::make_unique<CWnd>();
-    pTemporary->m_hWnd = hWnd;
-    return pTemporary.get();
+    if (CWnd* object = FromHandlePermanent(window))
+        return object;
+    std::unique_ptr<CWnd>& temporary = AfxGetState().temporary[window];
+    if (!temporary)
+        temporary = std::make_unique<CWnd>();
+    temporary->m_hWnd = window;
+    return temporary.get();
 }
 
 CScrollBar* afx::ScrollBarFromHandle(LPARAM lParam)
@@ -64,38 +64,37 @@ CScrollBar* afx::ScrollBarFromHandle(LPARAM lParam)
     return reinterpret_cast<CScrollBar*>(CWnd::FromHandle(reinterpret_cast<HWND>(lParam)));
 }
 
-BOOL CWnd::CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                    CWnd* pParentWnd, UINT nID)
+BOOL CWnd::CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* windowName, DWORD style, const RECT& rect,
+                    CWnd* parent, UINT id)
 {
-    HWND hWnd =
-        ::CreateWindowEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top, rect.right - rect.left,
-                         rect.bottom - rect.top, pParentWnd ? pParentWnd->m_hWnd : nullptr,
-                         reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(), nullptr);
-    return hWnd && SubclassWindow(hWnd);
+    HWND window = ::CreateWindowEx(exStyle, className, windowName, style, rect.left, rect.top, rect.right - rect.left,
+                                   rect.bottom - rect.top, parent ? parent->m_hWnd : nullptr,
+                                   reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), AfxGetInstanceHandle(), nullptr);
+    return window && SubclassWindow(window);
 }
 
-BOOL CWnd::SubclassWindow(HWND hWnd)
+BOOL CWnd::SubclassWindow(HWND window)
 {
-    if (!hWnd || m_hWnd || FromHandlePermanent(hWnd))
+    if (!window || m_hWnd || FromHandlePermanent(window))
         return FALSE;
-    m_hWnd = hWnd;
-    AfxGetState().permanent[hWnd] = this;
-    m_pfnSuper =
-        reinterpret_cast<WNDPROC>(::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
+    m_hWnd = window;
+    AfxGetState().permanent[window] = this;
+    m_pSuper =
+        reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     return TRUE;
 }
 
 HWND CWnd::UnsubclassWindow()
 {
-    HWND hWnd = m_hWnd;
-    if (hWnd && m_pfnSuper)
+    HWND window = m_hWnd;
+    if (window && m_pSuper)
     {
-        ::SetWindowLongPtr(hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pfnSuper));
-        AfxGetState().permanent.erase(hWnd);
+        ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pSuper));
+        AfxGetState().permanent.erase(window);
     }
-    m_pfnSuper = nullptr;
+    m_pSuper = nullptr;
     m_hWnd = nullptr;
-    return hWnd;
+    return window;
 }
 
 BOOL CWnd::DestroyWindow()
@@ -103,32 +102,32 @@ BOOL CWnd::DestroyWindow()
     return m_hWnd && ::DestroyWindow(m_hWnd);
 }
 
-void CWnd::GetWindowText(CString& rString) const
+void CWnd::GetWindowText(CString& text) const
 {
-    const int nLength = ::GetWindowTextLength(m_hWnd);
-    std::wstring buffer(static_cast<size_t>(nLength) + 1, L'\0');
-    const int nCopied = ::GetWindowText(m_hWnd, buffer.data(), nLength + 1);
-    buffer.resize(static_cast<size_t>(nCopied));
-    rString = buffer;
+    const int length = ::GetWindowTextLength(m_hWnd);
+    std::wstring buffer(static_cast<size_t>(length) + 1, L'\0');
+    const int copied = ::GetWindowText(m_hWnd, buffer.data(), length + 1);
+    buffer.resize(static_cast<size_t>(copied));
+    text = buffer;
 }
 
 // The system walks the children at every question, and some systems ask another process for them: an editor with two
 // hundred controls asks hundreds of times at each change. So a child is remembered for as long as it is one.
-HWND CWnd::ChildById(int nID) const
+HWND CWnd::ChildById(int id) const
 {
-    HWND& hWnd = m_mapChildren[nID];
-    if (!hWnd || ::GetAncestor(hWnd, GA_PARENT) != m_hWnd || ::GetDlgCtrlID(hWnd) != nID)
-        hWnd = ::GetDlgItem(m_hWnd, nID);
-    return hWnd;
+    HWND& window = m_mapChildren[id];
+    if (!window || ::GetAncestor(window, GA_PARENT) != m_hWnd || ::GetDlgCtrlID(window) != id)
+        window = ::GetDlgItem(m_hWnd, id);
+    return window;
 }
 
-BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
+BOOL CWnd::UpdateData(BOOL saveAndValidate)
 {
     AfxState& state = AfxGetState();
-    if (!m_hWnd || state.hWndHeld == m_hWnd)
+    if (!m_hWnd || state.heldWindow == m_hWnd)
         return FALSE;
-    const CScopedValue<HWND> held(state.hWndHeld, m_hWnd);
-    CDataExchange dx(this, bSaveAndValidate);
+    const CScopedValue<HWND> held(state.heldWindow, m_hWnd);
+    CDataExchange dx(this, saveAndValidate);
     try
     {
         DoDataExchange(&dx);
@@ -168,34 +167,34 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 
 bool CWnd::NotificationsHeld() const
 {
-    if (AfxGetState().hWndHeld == m_hWnd)
+    if (AfxGetState().heldWindow == m_hWnd)
         return true;
-    const CWnd* pRoot = FromHandlePermanent(::GetAncestor(m_hWnd, GA_ROOT));
-    return pRoot && pRoot->IsEnding();
+    const CWnd* root = FromHandlePermanent(::GetAncestor(m_hWnd, GA_ROOT));
+    return root && root->IsEnding();
 }
 
-BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     if (IsNotification(message))
     {
-        const HWND hWndFrom =
+        const HWND sender =
             message == WM_NOTIFY ? reinterpret_cast<NMHDR*>(lParam)->hwndFrom : reinterpret_cast<HWND>(lParam);
-        CWnd* pChild = FromHandlePermanent(hWndFrom);
-        if (pChild && pChild != this && pChild->OnChildNotify(message, wParam, lParam, pResult))
+        CWnd* child = FromHandlePermanent(sender);
+        if (child && child != this && child->OnChildNotify(message, wParam, lParam, result))
             return TRUE;
         if (NotificationsHeld())
             return TRUE;
     }
     if (message == WM_COMMAND)
         return OnCommand(wParam, lParam);
-    return DispatchMapped(message, 0, 0, wParam, lParam, pResult);
+    return DispatchMapped(message, 0, 0, wParam, lParam, result);
 }
 
 BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     LRESULT result = 0;
-    const UINT nCode = lParam ? HIWORD(wParam) : 0;
-    return DispatchMapped(WM_COMMAND, nCode, LOWORD(wParam), wParam, lParam, &result);
+    const UINT code = lParam ? HIWORD(wParam) : 0;
+    return DispatchMapped(WM_COMMAND, code, LOWORD(wParam), wParam, lParam, &result);
 }
 
 BOOL CWnd::OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*)
@@ -203,15 +202,15 @@ BOOL CWnd::OnChildNotify(UINT, WPARAM, LPARAM, LRESULT*)
     return FALSE;
 }
 
-BOOL CWnd::DispatchMapped(UINT message, UINT nCode, UINT nID, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
+BOOL CWnd::DispatchMapped(UINT message, UINT code, UINT id, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
-    for (const AFX_MSGMAP* pMap = GetMessageMap(); pMap; pMap = pMap->pfnGetBaseMap ? pMap->pfnGetBaseMap() : nullptr)
-        for (const AFX_MSGMAP_ENTRY* pEntry = pMap->lpEntries; pEntry->nMessage; ++pEntry)
+    for (const AFX_MSGMAP* map = GetMessageMap(); map; map = map->baseMap ? map->baseMap() : nullptr)
+        for (const AFX_MSGMAP_ENTRY* entry = map->entries; entry->message; ++entry)
         {
-            const UINT nWanted = pEntry->pRegistered ? *pEntry->pRegistered : pEntry->nMessage;
-            if (nWanted != message || pEntry->nCode != nCode || pEntry->nID != nID)
+            const UINT wanted = entry->registered ? *entry->registered : entry->message;
+            if (wanted != message || entry->code != code || entry->id != id)
                 continue;
-            *pResult = pEntry->pfnInvoke(*this, wParam, lParam);
+            *result = entry->invoke(*this, wParam, lParam);
             return TRUE;
         }
     return FALSE;
@@ -219,8 +218,8 @@ BOOL CWnd::DispatchMapped(UINT message, UINT nCode, UINT nID, WPARAM wParam, LPA
 
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    if (m_pfnSuper)
-        return ::CallWindowProc(m_pfnSuper, m_hWnd, message, wParam, lParam);
+    if (m_pSuper)
+        return ::CallWindowProc(m_pSuper, m_hWnd, message, wParam, lParam);
     return ::DefWindowProc(m_hWnd, message, wParam, lParam);
 }
 

@@ -8,13 +8,13 @@ class CSliderCtrl : public CWnd
 {
 public:
     int GetPos() const { return static_cast<int>(SendMessage(TBM_GETPOS)); }
-    void SetPos(int nPos) { SendMessage(TBM_SETPOS, TRUE, nPos); }
-    void SetRange(int nMin, int nMax, BOOL bRedraw = FALSE)
+    void SetPos(int pos) { SendMessage(TBM_SETPOS, TRUE, pos); }
+    void SetRange(int min, int max, BOOL redraw = FALSE)
     {
-        SendMessage(TBM_SETRANGEMIN, FALSE, nMin);
-        SendMessage(TBM_SETRANGEMAX, static_cast<WPARAM>(bRedraw), nMax);
+        SendMessage(TBM_SETRANGEMIN, FALSE, min);
+        SendMessage(TBM_SETRANGEMAX, static_cast<WPARAM>(redraw), max);
     }
-    int SetLineSize(int nSize) { return static_cast<int>(SendMessage(TBM_SETLINESIZE, 0, nSize)); }
-    int SetPageSize(int nSize) { return static_cast<int>(SendMessage(TBM_SETPAGESIZE, 0, nSize)); }
-    void SetTicFreq(int nFreq) { SendMessage(TBM_SETTICFREQ, static_cast<WPARAM>(nFreq)); }
+    int SetLineSize(int size) { return static_cast<int>(SendMessage(TBM_SETLINESIZE, 0, size)); }
+    int SetPageSize(int size) { return static_cast<int>(SendMessage(TBM_SETPAGESIZE, 0, size)); }
+    void SetTicFreq(int frequency) { SendMessage(TBM_SETTICFREQ, static_cast<WPARAM>(frequency)); }
 };

@@ -21,39 +21,39 @@ class CNotSupportedException
 class CDataExchange
 {
 public:
-    CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate) : m_bSaveAndValidate(bSaveAndValidate), m_pDlgWnd(pDlgWnd) {}
+    CDataExchange(CWnd* dialog, BOOL saveAndValidate) : m_bSaveAndValidate(saveAndValidate), m_pDlgWnd(dialog) {}
 
-    HWND PrepareCtrl(int nIDC);
-    HWND PrepareEditCtrl(int nIDC);
+    HWND PrepareCtrl(int id);
+    HWND PrepareEditCtrl(int id);
 
     // Gives the focus back to the control prepared last, selects an edit's text, and throws.
     [[noreturn]] void Fail();
 
     // Keeps the operator from typing more; a longer text set by the program stays whole.
-    void LimitLastEdit(int nChars);
+    void LimitLastEdit(int chars);
 
     BOOL m_bSaveAndValidate; // TRUE: from the controls to the members
     CWnd* m_pDlgWnd;
 
 private:
-    HWND m_hWndLastControl = nullptr;
+    HWND m_hLastControl = nullptr;
     bool m_bEditLastControl = false;
 };
 
-void DDX_Text(CDataExchange* pDX, int nIDC, int& value);
-void DDX_Text(CDataExchange* pDX, int nIDC, float& value);
-void DDX_Text(CDataExchange* pDX, int nIDC, CString& value);
-void DDX_Check(CDataExchange* pDX, int nIDC, int& value);
-void DDX_Radio(CDataExchange* pDX, int nIDC, int& value);
-void DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl);
+void DDX_Text(CDataExchange* exchange, int id, int& value);
+void DDX_Text(CDataExchange* exchange, int id, float& value);
+void DDX_Text(CDataExchange* exchange, int id, CString& value);
+void DDX_Check(CDataExchange* exchange, int id, int& value);
+void DDX_Radio(CDataExchange* exchange, int id, int& value);
+void DDX_Control(CDataExchange* exchange, int id, CWnd& control);
 
-void DDV_MaxChars(CDataExchange* pDX, const CString& value, int nChars);
-void DDV_MinMaxInt(CDataExchange* pDX, int value, int minVal, int maxVal);
+void DDV_MaxChars(CDataExchange* exchange, const CString& value, int chars);
+void DDV_MinMaxInt(CDataExchange* exchange, int value, int min, int max);
 
 namespace afx
 {
 // An optional sign and decimal digits, blanks around allowed; beyond 32 bits the nearest value.
-bool ParseInt(LPCTSTR pszText, int& value);
+bool ParseInt(const wchar_t* text, int& value);
 // A decimal number with '.' and optional exponent, blanks around allowed; no hexadecimal, no "nan" or "inf".
-bool ParseFloat(LPCTSTR pszText, float& value);
+bool ParseFloat(const wchar_t* text, float& value);
 } // namespace afx

@@ -10,17 +10,17 @@ class CScrollBar;
 
 struct AFX_MSGMAP_ENTRY
 {
-    UINT nMessage;           // 0 ends the table
-    UINT nCode;              // notification code of WM_COMMAND
-    UINT nID;                // control of WM_COMMAND
-    const UINT* pRegistered; // set for a registered message: its number is known only at run time
-    LRESULT (*pfnInvoke)(CWnd& wnd, WPARAM wParam, LPARAM lParam);
+    UINT message;           // 0 ends the table
+    UINT code;              // notification code of WM_COMMAND
+    UINT id;                // control of WM_COMMAND
+    const UINT* registered; // set for a registered message: its number is known only at run time
+    LRESULT (*invoke)(CWnd& wnd, WPARAM wParam, LPARAM lParam);
 };
 
 struct AFX_MSGMAP
 {
-    const AFX_MSGMAP* (*pfnGetBaseMap)(); // null in CWnd
-    const AFX_MSGMAP_ENTRY* lpEntries;
+    const AFX_MSGMAP* (*baseMap)(); // null in CWnd
+    const AFX_MSGMAP_ENTRY* entries;
 };
 
 namespace afx

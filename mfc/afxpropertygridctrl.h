@@ -26,23 +26,23 @@ class CMFCPropertyGridCtrl;
 class CMFCPropertyGridProperty
 {
 public:
-    CMFCPropertyGridProperty(const CString& strName, const CString& strValue, LPCTSTR lpszDescr = nullptr,
-                             DWORD_PTR dwData = 0);
+    CMFCPropertyGridProperty(const CString& name, const CString& value, const wchar_t* description = nullptr,
+                             DWORD_PTR data = 0);
     CMFCPropertyGridProperty(const CMFCPropertyGridProperty&) = delete;
     CMFCPropertyGridProperty& operator=(const CMFCPropertyGridProperty&) = delete;
 
     const CString& GetName() const { return m_strName; }
-    DWORD_PTR GetData() const { return m_dwData; }
+    DWORD_PTR GetData() const { return m_nData; }
 
     const CString& GetValue() const { return m_strValue; }
-    void SetValue(const CString& strValue); // sends nothing
-    void SetOriginalValue(const CString& strValue) { m_strOriginal = strValue; }
+    void SetValue(const CString& value); // sends nothing
+    void SetOriginalValue(const CString& value) { m_strOriginal = value; }
     BOOL IsModified() const { return m_strValue != m_strOriginal; }
 
     // FALSE when the text is there already and only new ones are wanted.
-    BOOL AddOption(LPCTSTR lpszOption, BOOL bInsertUnique = TRUE);
-    const std::vector<CString>& GetOptions() const { return m_options; }
-    void AllowEdit(BOOL bAllow = TRUE);
+    BOOL AddOption(const wchar_t* option, BOOL insertUnique = TRUE);
+    const std::vector<CString>& GetOptions() const { return m_vecOptions; }
+    void AllowEdit(BOOL allow = TRUE);
 
 private:
     friend class CMFCPropertyGridCtrl;
@@ -50,8 +50,8 @@ private:
     CString m_strName;
     CString m_strValue;
     CString m_strOriginal;
-    DWORD_PTR m_dwData;
-    std::vector<CString> m_options;
+    DWORD_PTR m_nData;
+    std::vector<CString> m_vecOptions;
     CMFCPropertyGridCtrl* m_pGrid = nullptr;
 };
 
@@ -60,31 +60,31 @@ class CMFCPropertyGridCtrl : public CWnd
 public:
     ~CMFCPropertyGridCtrl() override;
 
-    BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);
 
-    void EnableHeaderCtrl(BOOL bEnable = TRUE, LPCTSTR lpszLeftColumn = L"Property",
-                          LPCTSTR lpszRightColumn = L"Value");
-    void EnableDescriptionArea(BOOL bEnable = TRUE);
-    void SetAlphabeticMode(BOOL bSet = TRUE);
-    void SetVSDotNetLook(BOOL bSet = TRUE); // flat, with a strip beside the names
-    void MarkModifiedProperties(BOOL bMark = TRUE, BOOL bRedraw = TRUE);
+    void EnableHeaderCtrl(BOOL enable = TRUE, const wchar_t* leftColumn = L"Property",
+                          const wchar_t* rightColumn = L"Value");
+    void EnableDescriptionArea(BOOL enable = TRUE);
+    void SetAlphabeticMode(BOOL set = TRUE);
+    void SetVSDotNetLook(BOOL set = TRUE); // flat, with a strip beside the names
+    void MarkModifiedProperties(BOOL mark = TRUE, BOOL redraw = TRUE);
     // (COLORREF)-1 leaves a colour to the system.
-    void SetCustomColors(COLORREF clrBackground, COLORREF clrText, COLORREF clrGroupBackground, COLORREF clrGroupText,
-                         COLORREF clrDescriptionBackground, COLORREF clrDescriptionText, COLORREF clrLine);
+    void SetCustomColors(COLORREF background, COLORREF text, COLORREF groupBackground, COLORREF groupText,
+                         COLORREF descriptionBackground, COLORREF descriptionText, COLORREF line);
 
     // The grid owns the property from now on and deletes it in RemoveAll or with itself.
-    int AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRedraw = TRUE, BOOL bAdjustLayout = TRUE);
+    int AddProperty(CMFCPropertyGridProperty* property, BOOL redraw = TRUE, BOOL adjustLayout = TRUE);
     void RemoveAll();
-    int GetPropertyCount() const { return static_cast<int>(m_properties.size()); }
-    CMFCPropertyGridProperty* GetProperty(int nIndex) const { return m_properties[static_cast<size_t>(nIndex)].get(); }
+    int GetPropertyCount() const { return static_cast<int>(m_vecProperties.size()); }
+    CMFCPropertyGridProperty* GetProperty(int index) const { return m_vecProperties[static_cast<size_t>(index)].get(); }
     CMFCPropertyGridProperty* GetCurSel() const { return m_nSelected < 0 ? nullptr : GetProperty(m_nSelected); }
 
 protected:
-    virtual void OnPropertyChanged(CMFCPropertyGridProperty* pProp) const;
-    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    virtual void OnPropertyChanged(CMFCPropertyGridProperty* property) const;
+    BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     void OnPaint();
-    void OnSize(UINT nType, int cx, int cy);
+    void OnSize(UINT type, int cx, int cy);
     LRESULT OnEraseBkgnd(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
@@ -106,19 +106,19 @@ private:
     void CreateChildren();
     void DrawRows(HDC context);
     void UpdateLayout();
-    void UpdateScrollBar(BOOL bRedraw = TRUE);
+    void UpdateScrollBar(BOOL redraw = TRUE);
     void UpdateColumns();
-    void ScrollTo(int nTopRow);
+    void ScrollTo(int topRow);
     int TopRowAfterScroll(WPARAM wParam) const;
-    int ThumbRow(int nRowInMessage) const;
-    int RowAfterKey(WPARAM nKey) const;
-    void SelectRow(int nRow);
+    int ThumbRow(int rowInMessage) const;
+    int RowAfterKey(WPARAM key) const;
+    void SelectRow(int row);
     void OpenDropDown();
     void StepOption();
-    void ChangeValue(const CString& strValue);
+    void ChangeValue(const CString& value);
     bool HasFocus() const { return ::GetFocus() == m_hWnd || m_dropDown.IsOpen(); }
 
-    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> m_properties;
+    std::vector<std::unique_ptr<CMFCPropertyGridProperty>> m_vecProperties;
     int m_nSelected = -1;
     CPropertyGridLayout m_layout;
     PropertyGridLook m_look;

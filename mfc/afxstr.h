@@ -1,5 +1,5 @@
 // CString: the wide string of the framework.
-// Supported: construction, assignment, joining, comparison, Format, Trim and conversion to LPCTSTR.
+// Supported: construction, assignment, joining, comparison, Format, Trim and conversion to const wchar_t*.
 // Not supported: reference counting, GetBuffer, narrow strings. A null text is taken as the empty one.
 #pragma once
 
@@ -12,38 +12,38 @@ class CString
 {
 public:
     CString() = default;
-    CString(LPCTSTR psz) : m_str(psz ? psz : L"") {}
-    CString(const std::wstring& str) : m_str(str) {}
+    CString(const wchar_t* text) : m_strText(text ? text : L"") {}
+    CString(const std::wstring& text) : m_strText(text) {}
 
-    operator LPCTSTR() const { return m_str.c_str(); }
-    LPCTSTR GetString() const { return m_str.c_str(); }
-    int GetLength() const { return static_cast<int>(m_str.size()); }
-    BOOL IsEmpty() const { return m_str.empty(); }
-    void Empty() { m_str.clear(); }
+    operator const wchar_t*() const { return m_strText.c_str(); }
+    const wchar_t* GetString() const { return m_strText.c_str(); }
+    int GetLength() const { return static_cast<int>(m_strText.size()); }
+    BOOL IsEmpty() const { return m_strText.empty(); }
+    void Empty() { m_strText.clear(); }
 
-    CString& operator+=(LPCTSTR psz)
+    CString& operator+=(const wchar_t* text)
     {
-        m_str += psz ? psz : L"";
+        m_strText += text ? text : L"";
         return *this;
     }
 
-    int Compare(LPCTSTR psz) const { return m_str.compare(psz ? psz : L""); }
-    int CompareNoCase(LPCTSTR psz) const;
+    int Compare(const wchar_t* text) const { return m_strText.compare(text ? text : L""); }
+    int CompareNoCase(const wchar_t* text) const;
 
     // "%s" takes wide text and "%hs" narrow text, whatever mode the compiler's own printf family is in.
-    void Format(LPCTSTR pszFormat, ...);
-    void AppendFormat(LPCTSTR pszFormat, ...);
+    void Format(const wchar_t* format, ...);
+    void AppendFormat(const wchar_t* format, ...);
 
     // Removes white space (tab, no-break and ideographic space included) at both ends.
     CString& Trim();
 
 private:
-    static std::wstring FormatV(LPCTSTR pszFormat, va_list args);
+    static std::wstring FormatV(const wchar_t* format, va_list args);
 
-    std::wstring m_str;
+    std::wstring m_strText;
 };
 
-inline bool operator==(const CString& a, LPCTSTR b)
+inline bool operator==(const CString& a, const wchar_t* b)
 {
     return a.Compare(b) == 0;
 }
@@ -53,7 +53,7 @@ inline bool operator==(const CString& a, const CString& b)
     return a == b.GetString();
 }
 
-inline bool operator!=(const CString& a, LPCTSTR b)
+inline bool operator!=(const CString& a, const wchar_t* b)
 {
     return !(a == b);
 }

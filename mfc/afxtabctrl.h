@@ -25,35 +25,35 @@ public:
         LOCATION_TOP
     };
 
-    BOOL Create(Style style, const RECT& rect, CWnd* pParentWnd, UINT nID, Location location = LOCATION_BOTTOM,
-                BOOL bCloseBtn = FALSE);
+    BOOL Create(Style style, const RECT& rect, CWnd* parent, UINT id, Location location = LOCATION_BOTTOM,
+                BOOL closeButton = FALSE);
 
     // The page becomes a child of the tab control but stays its owner's object. The first one is shown.
-    void AddTab(CWnd* pTabWnd, LPCTSTR lpszTabLabel, UINT uiImageId = static_cast<UINT>(-1), BOOL bDetachable = TRUE);
-    BOOL SetActiveTab(int iTab);
-    int GetTabsNum() const { return static_cast<int>(m_pages.size()); }
+    void AddTab(CWnd* page, const wchar_t* label, UINT imageId = static_cast<UINT>(-1), BOOL detachable = TRUE);
+    BOOL SetActiveTab(int tab);
+    int GetTabsNum() const { return static_cast<int>(m_vecPages.size()); }
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
-    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     void PostNcDestroy() override;
 
-    void OnSize(UINT nType, int cx, int cy);
+    void OnSize(UINT type, int cx, int cy);
     LRESULT OnLButtonDown(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetCurFocus(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
 private:
-    CWnd* ActivePage() const { return m_pages[static_cast<size_t>(m_nActive)]; }
-    int TabAt(LPARAM lParamPoint) const;
+    CWnd* ActivePage() const { return m_vecPages[static_cast<size_t>(m_nActive)]; }
+    int TabAt(LPARAM point) const;
     RECT PageRect() const;
     bool LeaveActivePage();
     HWND FirstStopOfPage() const;
-    HWND TabTarget(HWND hWndFocus, bool bBack) const;
+    HWND TabTarget(HWND focus, bool back) const;
     bool MoveByTabKey(const MSG& msg);
 
-    std::vector<CWnd*> m_pages;
+    std::vector<CWnd*> m_vecPages;
     int m_nActive = -1; // no tabs
 };

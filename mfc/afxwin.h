@@ -32,17 +32,17 @@ public:
     HWND GetSafeHwnd() const { return m_hWnd; }
 
     // FromHandle makes a temporary object for a window that has none, valid until the last modal loop ends.
-    static CWnd* FromHandle(HWND hWnd);
-    static CWnd* FromHandlePermanent(HWND hWnd);
+    static CWnd* FromHandle(HWND window);
+    static CWnd* FromHandlePermanent(HWND window);
 
-    BOOL CreateEx(DWORD dwExStyle, LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
-                  CWnd* pParentWnd, UINT nID);
-    BOOL SubclassWindow(HWND hWnd);
+    BOOL CreateEx(DWORD exStyle, const wchar_t* className, const wchar_t* windowName, DWORD style, const RECT& rect,
+                  CWnd* parent, UINT id);
+    BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow();
     virtual BOOL DestroyWindow();
 
-    CWnd* GetDlgItem(int nID) const { return FromHandle(ChildById(nID)); }
-    void GetDlgItem(int nID, HWND* phWnd) const { *phWnd = ChildById(nID); }
+    CWnd* GetDlgItem(int id) const { return FromHandle(ChildById(id)); }
+    void GetDlgItem(int id, HWND* window) const { *window = ChildById(id); }
     int GetDlgCtrlID() const { return ::GetDlgCtrlID(m_hWnd); }
     CWnd* GetParent() const { return FromHandle(::GetParent(m_hWnd)); }
     DWORD GetStyle() const { return static_cast<DWORD>(::GetWindowLongPtr(m_hWnd, GWL_STYLE)); }
@@ -56,48 +56,48 @@ public:
         return ::PostMessage(m_hWnd, message, wParam, lParam);
     }
 
-    void SetWindowText(LPCTSTR lpszString) { ::SetWindowText(m_hWnd, lpszString); }
-    void GetWindowText(CString& rString) const;
-    BOOL EnableWindow(BOOL bEnable = TRUE) { return ::EnableWindow(m_hWnd, bEnable); }
+    void SetWindowText(const wchar_t* text) { ::SetWindowText(m_hWnd, text); }
+    void GetWindowText(CString& text) const;
+    BOOL EnableWindow(BOOL enable = TRUE) { return ::EnableWindow(m_hWnd, enable); }
     BOOL IsWindowEnabled() const { return ::IsWindowEnabled(m_hWnd); }
-    BOOL ShowWindow(int nCmdShow) { return ::ShowWindow(m_hWnd, nCmdShow); }
+    BOOL ShowWindow(int command) { return ::ShowWindow(m_hWnd, command); }
     BOOL IsWindowVisible() const { return ::IsWindowVisible(m_hWnd); }
     CWnd* SetFocus() { return FromHandle(::SetFocus(m_hWnd)); }
 
-    void GetWindowRect(LPRECT lpRect) const { ::GetWindowRect(m_hWnd, lpRect); }
-    void GetClientRect(LPRECT lpRect) const { ::GetClientRect(m_hWnd, lpRect); }
-    void ScreenToClient(LPRECT lpRect) const { ::MapWindowPoints(HWND_DESKTOP, m_hWnd, PointsOf(lpRect), 2); }
-    void ClientToScreen(LPRECT lpRect) const { ::MapWindowPoints(m_hWnd, HWND_DESKTOP, PointsOf(lpRect), 2); }
-    void MoveWindow(const RECT& rc, BOOL bRepaint = TRUE)
+    void GetWindowRect(LPRECT rect) const { ::GetWindowRect(m_hWnd, rect); }
+    void GetClientRect(LPRECT rect) const { ::GetClientRect(m_hWnd, rect); }
+    void ScreenToClient(LPRECT rect) const { ::MapWindowPoints(HWND_DESKTOP, m_hWnd, PointsOf(rect), 2); }
+    void ClientToScreen(LPRECT rect) const { ::MapWindowPoints(m_hWnd, HWND_DESKTOP, PointsOf(rect), 2); }
+    void MoveWindow(const RECT& rc, BOOL repaint = TRUE)
     {
-        ::MoveWindow(m_hWnd, rc.left, rc.top, rc.right - rc.left, rc.bottom - rc.top, bRepaint);
+        ::MoveWindow(m_hWnd, rc.left, rc.top, rc.right - rc.left, rc.bottom - rc.top, repaint);
     }
 
-    void Invalidate(BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, bErase); }
-    void InvalidateRect(LPCRECT lpRect, BOOL bErase = TRUE) { ::InvalidateRect(m_hWnd, lpRect, bErase); }
-    BOOL RedrawWindow(LPCRECT lpRect = nullptr, UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE)
+    void Invalidate(BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, nullptr, erase); }
+    void InvalidateRect(LPCRECT rect, BOOL erase = TRUE) { ::InvalidateRect(m_hWnd, rect, erase); }
+    BOOL RedrawWindow(LPCRECT rect = nullptr, UINT flags = RDW_INVALIDATE | RDW_UPDATENOW | RDW_ERASE)
     {
-        return ::RedrawWindow(m_hWnd, lpRect, nullptr, flags);
+        return ::RedrawWindow(m_hWnd, rect, nullptr, flags);
     }
-    void SetRedraw(BOOL bRedraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(bRedraw)); }
-    int GetScrollPos(int nBar) const { return ::GetScrollPos(m_hWnd, nBar); }
+    void SetRedraw(BOOL redraw = TRUE) { SendMessage(WM_SETREDRAW, static_cast<WPARAM>(redraw)); }
+    int GetScrollPos(int bar) const { return ::GetScrollPos(m_hWnd, bar); }
 
     // TRUE: from the controls to the members, validating; FALSE: from the members to the controls. Returns FALSE when
     // a check refused a value or there is no window. The window's own control notifications are held back meanwhile.
-    BOOL UpdateData(BOOL bSaveAndValidate = TRUE);
+    BOOL UpdateData(BOOL saveAndValidate = TRUE);
 
-    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    virtual BOOL PreTranslateMessage(MSG* message);
 
 protected:
     friend class CDialog;
     friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
 
-    virtual void DoDataExchange(CDataExchange* pDX);
+    virtual void DoDataExchange(CDataExchange* exchange);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
-    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual BOOL OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual BOOL OnCommand(WPARAM wParam, LPARAM lParam);
     // Offers a notification to the control that sent it before its parent's map; TRUE ends the matter.
-    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result);
     virtual LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam);
     virtual void PostNcDestroy();
     // TRUE once the modal dialog around this window was told to end.
@@ -109,40 +109,37 @@ protected:
     // Default processing of the message being handled.
     LRESULT Default();
 
-    void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    void OnSize(UINT nType, int cx, int cy);
+    void OnHScroll(UINT code, UINT pos, CScrollBar* scrollBar);
+    void OnSize(UINT type, int cx, int cy);
 
     static const AFX_MSGMAP* GetThisMessageMap();
     virtual const AFX_MSGMAP* GetMessageMap() const;
 
 private:
-    static LPPOINT PointsOf(LPRECT lpRect) { return reinterpret_cast<LPPOINT>(lpRect); }
-    HWND ChildById(int nID) const;
-    BOOL DispatchMapped(UINT message, UINT nCode, UINT nID, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    static LPPOINT PointsOf(LPRECT rect) { return reinterpret_cast<LPPOINT>(rect); }
+    HWND ChildById(int id) const;
+    BOOL DispatchMapped(UINT message, UINT code, UINT id, WPARAM wParam, LPARAM lParam, LRESULT* result);
 
     mutable std::unordered_map<int, HWND> m_mapChildren; // as last found
-    WNDPROC m_pfnSuper = nullptr;                        // the procedure that the window had before it was subclassed
+    WNDPROC m_pSuper = nullptr;                          // the procedure that the window had before it was subclassed
 };
 
 class CDialog : public CWnd
 {
 public:
     // The template is looked up when the dialog runs, under the resource handle that is current then.
-    explicit CDialog(UINT nIDTemplate, CWnd* pParentWnd = nullptr)
-        : m_nIDTemplate(nIDTemplate), m_pParentWnd(pParentWnd)
-    {
-    }
+    explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nTemplateId(templateId), m_pParent(parent) {}
     ~CDialog() override;
 
     // The value given to EndDialog; -1 when the dialog could not be created or died with its owner.
     virtual INT_PTR DoModal();
-    // A modeless dialog; with a WS_CHILD template a child of pParentWnd.
-    BOOL Create(UINT nIDTemplate, CWnd* pParentWnd = nullptr);
-    void EndDialog(int nResult);
+    // A modeless dialog; with a WS_CHILD template a child of parent.
+    BOOL Create(UINT templateId, CWnd* parent = nullptr);
+    void EndDialog(int result);
 
-    void GotoDlgCtrl(CWnd* pWndCtrl) { SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(pWndCtrl->m_hWnd), TRUE); }
+    void GotoDlgCtrl(CWnd* control) { SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control->m_hWnd), TRUE); }
 
-    BOOL PreTranslateMessage(MSG* pMsg) override;
+    BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     virtual BOOL OnInitDialog();
@@ -154,14 +151,14 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
-    HWND CreateIndirect(UINT nIDTemplate, HWND hWndParent);
-    static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
-    INT_PTR InitDialog(HWND hWnd);
-    int RunModalLoop(HWND hWndOwner);
+    HWND CreateIndirect(UINT templateId, HWND parent);
+    static INT_PTR CALLBACK DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+    INT_PTR InitDialog(HWND window);
+    int RunModalLoop(HWND owner);
     bool PumpMessage();
 
-    UINT m_nIDTemplate;
-    CWnd* m_pParentWnd;
+    UINT m_nTemplateId;
+    CWnd* m_pParent;
     bool m_bModal = false;
     bool m_bRunning = false;
     int m_nModalResult = -1;
@@ -189,31 +186,30 @@ public:
     int GetCount() const { return static_cast<int>(SendMessage(LB_GETCOUNT)); }
     int GetCurSel() const { return static_cast<int>(SendMessage(LB_GETCURSEL)); }
     // An index outside the list clears the selection and gives LB_ERR.
-    int SetCurSel(int nSelect);
-    int AddString(LPCTSTR lpszItem);
-    int InsertString(int nIndex, LPCTSTR lpszItem);
-    int DeleteString(UINT nIndex) { return static_cast<int>(SendMessage(LB_DELETESTRING, nIndex)); }
+    int SetCurSel(int row);
+    int AddString(const wchar_t* text);
+    int InsertString(int index, const wchar_t* text);
+    int DeleteString(UINT index) { return static_cast<int>(SendMessage(LB_DELETESTRING, index)); }
     void ResetContent() { SendMessage(LB_RESETCONTENT); }
-    void GetText(int nIndex, CString& rString) const;
-    DWORD_PTR GetItemData(int nIndex) const
+    void GetText(int index, CString& text) const;
+    DWORD_PTR GetItemData(int index) const
     {
-        return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
+        return static_cast<DWORD_PTR>(SendMessage(LB_GETITEMDATA, static_cast<WPARAM>(index)));
     }
-    int SetItemData(int nIndex, DWORD_PTR dwItemData)
+    int SetItemData(int index, DWORD_PTR data)
+    {
+        return static_cast<int>(SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
+    }
+    int GetItemRect(int index, LPRECT rect) const
     {
         return static_cast<int>(
-            SendMessage(LB_SETITEMDATA, static_cast<WPARAM>(nIndex), static_cast<LPARAM>(dwItemData)));
-    }
-    int GetItemRect(int nIndex, LPRECT lpRect) const
-    {
-        return static_cast<int>(
-            SendMessage(LB_GETITEMRECT, static_cast<WPARAM>(nIndex), reinterpret_cast<LPARAM>(lpRect)));
+            SendMessage(LB_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect)));
     }
     int GetSelCount() const { return static_cast<int>(SendMessage(LB_GETSELCOUNT)); }
-    int GetSelItems(int nMaxItems, LPINT rgIndex) const
+    int GetSelItems(int maxItems, LPINT indices) const
     {
         return static_cast<int>(
-            SendMessage(LB_GETSELITEMS, static_cast<WPARAM>(nMaxItems), reinterpret_cast<LPARAM>(rgIndex)));
+            SendMessage(LB_GETSELITEMS, static_cast<WPARAM>(maxItems), reinterpret_cast<LPARAM>(indices)));
     }
 };
 
@@ -223,30 +219,29 @@ public:
     int GetCount() const { return static_cast<int>(SendMessage(CB_GETCOUNT)); }
     int GetCurSel() const { return static_cast<int>(SendMessage(CB_GETCURSEL)); }
     // An index outside the list clears the selection and gives CB_ERR.
-    int SetCurSel(int nSelect);
-    int AddString(LPCTSTR lpszString);
+    int SetCurSel(int row);
+    int AddString(const wchar_t* text);
     void ResetContent() { SendMessage(CB_RESETCONTENT); }
-    void GetLBText(int nIndex, CString& rString) const;
-    DWORD_PTR GetItemData(int nIndex) const
+    void GetLBText(int index, CString& text) const;
+    DWORD_PTR GetItemData(int index) const
     {
-        return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(nIndex)));
+        return static_cast<DWORD_PTR>(SendMessage(CB_GETITEMDATA, static_cast<WPARAM>(index)));
     }
-    int SetItemData(int nIndex, DWORD_PTR dwItemData)
+    int SetItemData(int index, DWORD_PTR data)
+    {
+        return static_cast<int>(SendMessage(CB_SETITEMDATA, static_cast<WPARAM>(index), static_cast<LPARAM>(data)));
+    }
+    // The search begins after startAfter (-1: with the first line) and wraps round; case does not count.
+    int FindStringExact(int startAfter, const wchar_t* text) const
     {
         return static_cast<int>(
-            SendMessage(CB_SETITEMDATA, static_cast<WPARAM>(nIndex), static_cast<LPARAM>(dwItemData)));
-    }
-    // The search begins after nStartAfter (-1: with the first line) and wraps round; case does not count.
-    int FindStringExact(int nStartAfter, LPCTSTR lpszFind) const
-    {
-        return static_cast<int>(
-            SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszFind)));
+            SendMessage(CB_FINDSTRINGEXACT, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
     }
     // Selects the first line that begins with the text; not found: CB_ERR, and the selection stays.
-    int SelectString(int nStartAfter, LPCTSTR lpszString)
+    int SelectString(int startAfter, const wchar_t* text)
     {
         return static_cast<int>(
-            SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(nStartAfter), reinterpret_cast<LPARAM>(lpszString)));
+            SendMessage(CB_SELECTSTRING, static_cast<WPARAM>(startAfter), reinterpret_cast<LPARAM>(text)));
     }
 };
 
@@ -259,7 +254,7 @@ public:
 
     HDC m_hDC = nullptr;
 
-    void FillSolidRect(LPCRECT lpRect, COLORREF clr);
+    void FillSolidRect(LPCRECT rect, COLORREF colour);
 
 protected:
     CDC() = default;
@@ -269,12 +264,12 @@ protected:
 class CPaintDC : public CDC
 {
 public:
-    explicit CPaintDC(CWnd* pWnd) : m_hWnd(pWnd->m_hWnd) { m_hDC = ::BeginPaint(m_hWnd, &m_ps); }
-    ~CPaintDC() { ::EndPaint(m_hWnd, &m_ps); }
+    explicit CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) { m_hDC = ::BeginPaint(m_hWnd, &m_paint); }
+    ~CPaintDC() { ::EndPaint(m_hWnd, &m_paint); }
 
 private:
     HWND m_hWnd;
-    PAINTSTRUCT m_ps{};
+    PAINTSTRUCT m_paint{};
 };
 
 class CMenu
@@ -287,14 +282,14 @@ public:
 
     HMENU m_hMenu = nullptr;
 
-    BOOL LoadMenu(UINT nIDResource);
+    BOOL LoadMenu(UINT resourceId);
     BOOL DestroyMenu();
-    BOOL ModifyMenu(UINT nPosition, UINT nFlags, UINT_PTR nIDNewItem, LPCTSTR lpszNewItem)
+    BOOL ModifyMenu(UINT position, UINT flags, UINT_PTR newId, const wchar_t* text)
     {
-        return ::ModifyMenu(m_hMenu, nPosition, nFlags, nIDNewItem, lpszNewItem);
+        return ::ModifyMenu(m_hMenu, position, flags, newId, text);
     }
     // Differs: the plain handle, which belongs to the menu around it.
-    HMENU GetSubMenu(int nPos) const { return ::GetSubMenu(m_hMenu, nPos); }
+    HMENU GetSubMenu(int pos) const { return ::GetSubMenu(m_hMenu, pos); }
 };
 
 // Shows the hourglass while it lives; nested ones count.
@@ -310,14 +305,14 @@ public:
 class CWinApp
 {
 public:
-    explicit CWinApp(LPCTSTR lpszAppName);
+    explicit CWinApp(const wchar_t* appName);
     virtual ~CWinApp();
     CWinApp(const CWinApp&) = delete;
     CWinApp& operator=(const CWinApp&) = delete;
 
     virtual BOOL InitInstance() { return TRUE; }
 
-    LPCTSTR m_pszAppName; // caption of message boxes
+    const wchar_t* m_pszAppName; // caption of message boxes
 };
 
 CWinApp* AfxGetApp();
@@ -325,7 +320,7 @@ HINSTANCE AfxGetInstanceHandle();
 // The module that templates and menus are taken from; at first the module that holds this code. Null means what it
 // means to the system: the program of the process.
 HINSTANCE AfxGetResourceHandle();
-void AfxSetResourceHandle(HINSTANCE hInstResource);
+void AfxSetResourceHandle(HINSTANCE module);
 // The window class goes when the module that registered it is unloaded.
-BOOL AfxRegisterClass(const WNDCLASS* lpWndClass);
-int AfxMessageBox(LPCTSTR lpszText, UINT nType = MB_OK);
+BOOL AfxRegisterClass(const WNDCLASS* windowClass);
+int AfxMessageBox(const wchar_t* text, UINT type = MB_OK);
