@@ -10,32 +10,32 @@ using namespace test;
 
 enum Id : WORD
 {
-    checkId = 101,
-    firstRadioId = 102,
-    secondRadioId = 103,
-    pushId = 104,
-    defaultId = 105
+    kCheckId = 101,
+    kFirstRadioId = 102,
+    kSecondRadioId = 103,
+    kPushId = 104,
+    kDefaultId = 105
 };
-constexpr DWORD style = WS_VISIBLE | WS_TABSTOP;
+constexpr DWORD kStyle = WS_VISIBLE | WS_TABSTOP;
 
 const DialogTemplate
-    dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 100,
-                   {{L"BUTTON", L"", style | BS_AUTOCHECKBOX, 5, 5, 60, 12, checkId},
-                    {L"BUTTON", L"", style | BS_AUTORADIOBUTTON | WS_GROUP, 5, 20, 60, 12, firstRadioId},
-                    {L"BUTTON", L"", WS_VISIBLE | BS_AUTORADIOBUTTON, 5, 35, 60, 12, secondRadioId},
-                    {L"BUTTON", L"", style | WS_GROUP, 5, 50, 60, 14, pushId},
-                    {L"BUTTON", L"", style | BS_DEFPUSHBUTTON, 5, 70, 60, 14, defaultId}});
+    kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 100,
+                    {{L"BUTTON", L"", kStyle | BS_AUTOCHECKBOX, 5, 5, 60, 12, kCheckId},
+                     {L"BUTTON", L"", kStyle | BS_AUTORADIOBUTTON | WS_GROUP, 5, 20, 60, 12, kFirstRadioId},
+                     {L"BUTTON", L"", WS_VISIBLE | BS_AUTORADIOBUTTON, 5, 35, 60, 12, kSecondRadioId},
+                     {L"BUTTON", L"", kStyle | WS_GROUP, 5, 50, 60, 14, kPushId},
+                     {L"BUTTON", L"", kStyle | BS_DEFPUSHBUTTON, 5, 70, 60, 14, kDefaultId}});
 
 class Button : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        check.SubclassWindow(dialog.Item(checkId));
-        firstRadio.SubclassWindow(dialog.Item(firstRadioId));
-        secondRadio.SubclassWindow(dialog.Item(secondRadioId));
-        push.SubclassWindow(dialog.Item(pushId));
+        dialog.Create(kDialogTemplate);
+        check.SubclassWindow(dialog.Item(kCheckId));
+        firstRadio.SubclassWindow(dialog.Item(kFirstRadioId));
+        secondRadio.SubclassWindow(dialog.Item(kSecondRadioId));
+        push.SubclassWindow(dialog.Item(kPushId));
         dialog.notifications.clear();
     }
 
@@ -63,7 +63,7 @@ TEST_F(Button, ClickTurnsACheckAndTellsOfIt)
     EXPECT_EQ(BST_CHECKED, CheckOf(check));
     Click(check.m_hWnd, {4, 4});
     EXPECT_EQ(BST_UNCHECKED, CheckOf(check));
-    ExpectClicksOf({checkId, checkId});
+    ExpectClicksOf({kCheckId, kCheckId});
 }
 
 TEST_F(Button, ClickMovesTheCheckWithinAGroup)
@@ -77,7 +77,7 @@ TEST_F(Button, ClickMovesTheCheckWithinAGroup)
 TEST_F(Button, PushButtonTellsOfItsClick)
 {
     Click(push.m_hWnd, {4, 4});
-    ExpectClicksOf({pushId});
+    ExpectClicksOf({kPushId});
 }
 
 TEST_F(Button, PushButtonIsTheDefaultWhileItHasTheFocus)
@@ -85,6 +85,6 @@ TEST_F(Button, PushButtonIsTheDefaultWhileItHasTheFocus)
     dialog.SendMessage(WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(push.m_hWnd), TRUE);
     EXPECT_EQ(DLGC_DEFPUSHBUTTON, push.SendMessage(WM_GETDLGCODE) & DLGC_DEFPUSHBUTTON);
     PressKey(VK_RETURN);
-    ExpectClicksOf({pushId});
+    ExpectClicksOf({kPushId});
 }
 } // namespace

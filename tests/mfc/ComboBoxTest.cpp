@@ -6,19 +6,19 @@ namespace
 {
 using namespace test;
 
-constexpr WORD comboId = 101;
+constexpr WORD kComboId = 101;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 100,
-                                    {{L"COMBOBOX", L"", WS_VISIBLE | CBS_DROPDOWNLIST, 5, 5, 100, 80, comboId}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 100,
+                                     {{L"COMBOBOX", L"", WS_VISIBLE | CBS_DROPDOWNLIST, 5, 5, 100, 80, kComboId}});
 
 class ComboBox : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        combo.SubclassWindow(dialog.Item(comboId));
-        for (const LPCTSTR text : {L"1", L"2", L"12", L"Pass", L"pass"})
+        dialog.Create(kDialogTemplate);
+        combo.SubclassWindow(dialog.Item(kComboId));
+        for (const wchar_t* const text : {L"1", L"2", L"12", L"Pass", L"pass"})
             combo.AddString(text);
         dialog.notifications.clear();
     }

@@ -10,8 +10,8 @@ namespace
 {
 using namespace test;
 
-constexpr WORD controlId = 101;
-constexpr WORD otherId = 102;
+constexpr WORD kControlId = 101;
+constexpr WORD kOtherId = 102;
 
 template <typename Member>
 struct Kind;
@@ -56,7 +56,7 @@ class ControlMember : public testing::Test
 protected:
     void SetUp() override
     {
-        dialog.exchange = [this](CDataExchange* pDX) { DDX_Control(pDX, controlId, member); };
+        dialog.exchange = [this](CDataExchange* dx) { DDX_Control(dx, kControlId, member); };
         Open();
     }
 
@@ -64,8 +64,8 @@ protected:
     {
         const DWORD style = WS_VISIBLE | WS_TABSTOP;
         const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 60,
-                                            {{Kind<Member>::name, L"", style, 5, 5, 60, 40, controlId},
-                                             {Kind<Member>::name, L"", style, 75, 5, 60, 40, otherId}});
+                                            {{Kind<Member>::name, L"", style, 5, 5, 60, 40, kControlId},
+                                             {Kind<Member>::name, L"", style, 75, 5, 60, 40, kOtherId}});
         dialog.Create(dialogTemplate);
     }
 
@@ -86,8 +86,8 @@ TYPED_TEST(ControlMember, IsBoundByTheFirstExchangeInEitherDirection)
     for (const BOOL save : {FALSE, TRUE})
     {
         EXPECT_TRUE(this->dialog.UpdateData(save));
-        EXPECT_EQ(this->dialog.Item(controlId), this->member.GetSafeHwnd());
-        EXPECT_EQ(&this->member, this->dialog.GetDlgItem(controlId));
+        EXPECT_EQ(this->dialog.Item(kControlId), this->member.GetSafeHwnd());
+        EXPECT_EQ(&this->member, this->dialog.GetDlgItem(kControlId));
         this->member.UnsubclassWindow();
     }
 }
@@ -95,14 +95,14 @@ TYPED_TEST(ControlMember, IsBoundByTheFirstExchangeInEitherDirection)
 TYPED_TEST(ControlMember, StaysBoundAtLaterExchanges)
 {
     this->dialog.UpdateData(FALSE);
-    this->dialog.exchange = [this](CDataExchange* pDX) { DDX_Control(pDX, otherId, this->member); };
+    this->dialog.exchange = [this](CDataExchange* dx) { DDX_Control(dx, kOtherId, this->member); };
     EXPECT_TRUE(this->dialog.UpdateData(FALSE));
-    EXPECT_EQ(this->dialog.Item(controlId), this->member.GetSafeHwnd());
+    EXPECT_EQ(this->dialog.Item(kControlId), this->member.GetSafeHwnd());
 }
 
 TYPED_TEST(ControlMember, FailsTheExchangeWhenTheDialogLacksIt)
 {
-    this->dialog.exchange = [this](CDataExchange* pDX) { DDX_Control(pDX, 199, this->member); };
+    this->dialog.exchange = [this](CDataExchange* dx) { DDX_Control(dx, 199, this->member); };
     EXPECT_FALSE(this->dialog.UpdateData(FALSE));
     EXPECT_EQ(nullptr, this->member.GetSafeHwnd());
 }
@@ -114,13 +114,13 @@ TYPED_TEST(ControlMember, LosesItsWindowWithTheDialogAndIsBoundAgainInTheNext)
     EXPECT_EQ(nullptr, this->member.GetSafeHwnd());
     this->Open();
     EXPECT_TRUE(this->dialog.UpdateData(FALSE));
-    EXPECT_EQ(this->dialog.Item(controlId), this->member.GetSafeHwnd());
+    EXPECT_EQ(this->dialog.Item(kControlId), this->member.GetSafeHwnd());
 }
 
 TYPED_TEST(ControlMember, StaysItsSystemControl)
 {
-    const HWND plain = this->dialog.Item(otherId);
-    const HWND bound = this->dialog.Item(controlId);
+    const HWND plain = this->dialog.Item(kOtherId);
+    const HWND bound = this->dialog.Item(kControlId);
     this->dialog.UpdateData(FALSE);
     EXPECT_EQ(::SendMessage(plain, WM_GETDLGCODE, 0, 0), ::SendMessage(bound, WM_GETDLGCODE, 0, 0));
     EXPECT_EQ(::GetWindowLong(plain, GWL_STYLE), ::GetWindowLong(bound, GWL_STYLE));
@@ -133,8 +133,8 @@ TYPED_TEST(ControlMember, IsEnabledAndShownOnItsOwn)
     this->member.ShowWindow(SW_HIDE);
     EXPECT_FALSE(this->member.IsWindowEnabled());
     EXPECT_FALSE(this->member.IsWindowVisible());
-    EXPECT_TRUE(::IsWindowEnabled(this->dialog.Item(otherId)));
-    EXPECT_TRUE(::IsWindowVisible(this->dialog.Item(otherId)));
+    EXPECT_TRUE(::IsWindowEnabled(this->dialog.Item(kOtherId)));
+    EXPECT_TRUE(::IsWindowVisible(this->dialog.Item(kOtherId)));
     this->member.EnableWindow();
     this->member.ShowWindow(SW_SHOW);
     EXPECT_TRUE(this->member.IsWindowEnabled());

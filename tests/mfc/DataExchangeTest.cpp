@@ -13,38 +13,38 @@ using namespace test;
 
 enum Id : WORD
 {
-    firstEdit = 101,
-    secondEdit = 102,
-    thirdEdit = 103,
-    checkBox = 104,
-    hiddenEdit = 105,
-    disabledEdit = 106,
-    missing = 199
+    kFirstEdit = 101,
+    kSecondEdit = 102,
+    kThirdEdit = 103,
+    kCheckBox = 104,
+    kHiddenEdit = 105,
+    kDisabledEdit = 106,
+    kMissing = 199
 };
 
-constexpr DWORD editStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
+constexpr DWORD kEditStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 100,
-                                    {{L"EDIT", L"1", editStyle, 5, 5, 50, 12, firstEdit},
-                                     {L"EDIT", L"2", editStyle, 5, 20, 50, 12, secondEdit},
-                                     {L"EDIT", L"3", editStyle, 5, 35, 50, 12, thirdEdit},
-                                     {L"BUTTON", L"check", WS_VISIBLE | BS_AUTOCHECKBOX, 5, 50, 50, 12, checkBox},
-                                     {L"EDIT", L"4", WS_BORDER, 5, 65, 50, 12, hiddenEdit},
-                                     {L"EDIT", L"5", editStyle | WS_DISABLED, 5, 80, 50, 12, disabledEdit}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 100,
+                                     {{L"EDIT", L"1", kEditStyle, 5, 5, 50, 12, kFirstEdit},
+                                      {L"EDIT", L"2", kEditStyle, 5, 20, 50, 12, kSecondEdit},
+                                      {L"EDIT", L"3", kEditStyle, 5, 35, 50, 12, kThirdEdit},
+                                      {L"BUTTON", L"check", WS_VISIBLE | BS_AUTOCHECKBOX, 5, 50, 50, 12, kCheckBox},
+                                      {L"EDIT", L"4", WS_BORDER, 5, 65, 50, 12, kHiddenEdit},
+                                      {L"EDIT", L"5", kEditStyle | WS_DISABLED, 5, 80, 50, 12, kDisabledEdit}});
 
 class DataExchange : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        dialog.exchange = [this](CDataExchange* pDX) {
-            DDX_Text(pDX, firstEdit, first);
-            DDX_Text(pDX, secondEdit, second);
-            DDV_MinMaxInt(pDX, second, 0, 50);
-            DDX_Text(pDX, thirdEdit, third);
+        dialog.Create(kDialogTemplate);
+        dialog.exchange = [this](CDataExchange* dx) {
+            DDX_Text(dx, kFirstEdit, first);
+            DDX_Text(dx, kSecondEdit, second);
+            DDV_MinMaxInt(dx, second, 0, 50);
+            DDX_Text(dx, kThirdEdit, third);
         };
-        ::SetFocus(dialog.Item(firstEdit));
+        ::SetFocus(dialog.Item(kFirstEdit));
         dialog.notifications.clear();
     }
 
@@ -65,9 +65,9 @@ protected:
 TEST_F(DataExchange, CopiesMembersToControls)
 {
     EXPECT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(L"10", dialog.Text(firstEdit));
-    EXPECT_EQ(L"20", dialog.Text(secondEdit));
-    EXPECT_EQ(L"30", dialog.Text(thirdEdit));
+    EXPECT_EQ(L"10", dialog.Text(kFirstEdit));
+    EXPECT_EQ(L"20", dialog.Text(kSecondEdit));
+    EXPECT_EQ(L"30", dialog.Text(kThirdEdit));
 }
 
 TEST_F(DataExchange, CopiesControlsToMembersUnlessToldOtherwise)
@@ -81,9 +81,9 @@ TEST_F(DataExchange, CopiesControlsToMembersUnlessToldOtherwise)
 TEST_F(DataExchange, TellsTheDirectionAndTheDialog)
 {
     std::vector<BOOL> directions;
-    dialog.exchange = [&](CDataExchange* pDX) {
-        EXPECT_EQ(&dialog, pDX->m_pDlgWnd);
-        directions.push_back(pDX->m_bSaveAndValidate);
+    dialog.exchange = [&](CDataExchange* dx) {
+        EXPECT_EQ(&dialog, dx->m_pDlgWnd);
+        directions.push_back(dx->m_bSaveAndValidate);
     };
     dialog.UpdateData(FALSE);
     dialog.UpdateData(TRUE);
@@ -98,7 +98,7 @@ TEST_F(DataExchange, OfADialogWithoutExchangeSucceeds)
 
 TEST_F(DataExchange, StopsAtTheFirstFailure)
 {
-    dialog.SetText(secondEdit, L"junk");
+    dialog.SetText(kSecondEdit, L"junk");
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_EQ(1, first) << "read before the failure";
@@ -108,7 +108,7 @@ TEST_F(DataExchange, StopsAtTheFirstFailure)
 
 TEST_F(DataExchange, RangeFailureComesAfterTheMemberWasRead)
 {
-    dialog.SetText(secondEdit, L"51");
+    dialog.SetText(kSecondEdit, L"51");
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_EQ(51, second);
@@ -117,8 +117,8 @@ TEST_F(DataExchange, RangeFailureComesAfterTheMemberWasRead)
 
 TEST_F(DataExchange, PromptsOncePerFailure)
 {
-    dialog.SetText(firstEdit, L"junk");
-    dialog.SetText(thirdEdit, L"junk too");
+    dialog.SetText(kFirstEdit, L"junk");
+    dialog.SetText(kThirdEdit, L"junk too");
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_EQ(1u, boxes.Count());
@@ -130,44 +130,44 @@ TEST_F(DataExchange, LoadNeverPrompts)
     second = 51;
     const MessageBoxes boxes;
     EXPECT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(L"51", dialog.Text(secondEdit));
+    EXPECT_EQ(L"51", dialog.Text(kSecondEdit));
     PumpMessages();
     EXPECT_EQ(0u, boxes.Count());
 }
 
 TEST_F(DataExchange, FailureGivesTheFocusBackWithTheTextSelected)
 {
-    dialog.SetText(secondEdit, L"junk");
-    ::SendMessage(dialog.Item(secondEdit), EM_SETSEL, 1, 1);
+    dialog.SetText(kSecondEdit, L"junk");
+    ::SendMessage(dialog.Item(kSecondEdit), EM_SETSEL, 1, 1);
     const MessageBoxes boxes;
     dialog.UpdateData(TRUE);
-    EXPECT_EQ(dialog.Item(secondEdit), ::GetFocus());
-    EXPECT_EQ(MAKELRESULT(0, 4), ::SendMessage(dialog.Item(secondEdit), EM_GETSEL, 0, 0));
+    EXPECT_EQ(dialog.Item(kSecondEdit), ::GetFocus());
+    EXPECT_EQ(MAKELRESULT(0, 4), ::SendMessage(dialog.Item(kSecondEdit), EM_GETSEL, 0, 0));
 }
 
 TEST_F(DataExchange, FailureAtAControlThatIsNoEditGivesItTheFocus)
 {
-    dialog.exchange = [](CDataExchange* pDX) {
-        pDX->PrepareEditCtrl(firstEdit);
-        pDX->PrepareCtrl(checkBox);
-        pDX->Fail();
+    dialog.exchange = [](CDataExchange* dx) {
+        dx->PrepareEditCtrl(kFirstEdit);
+        dx->PrepareCtrl(kCheckBox);
+        dx->Fail();
     };
     EXPECT_FALSE(dialog.UpdateData(TRUE));
-    EXPECT_EQ(dialog.Item(checkBox), ::GetFocus());
+    EXPECT_EQ(dialog.Item(kCheckBox), ::GetFocus());
 }
 
 TEST_F(DataExchange, PrepareGivesTheControl)
 {
     CDataExchange dx(&dialog, TRUE);
-    EXPECT_EQ(dialog.Item(checkBox), dx.PrepareCtrl(checkBox));
-    EXPECT_EQ(dialog.Item(firstEdit), dx.PrepareEditCtrl(firstEdit));
-    EXPECT_THROW(dx.PrepareCtrl(missing), CNotSupportedException);
+    EXPECT_EQ(dialog.Item(kCheckBox), dx.PrepareCtrl(kCheckBox));
+    EXPECT_EQ(dialog.Item(kFirstEdit), dx.PrepareEditCtrl(kFirstEdit));
+    EXPECT_THROW(dx.PrepareCtrl(kMissing), CNotSupportedException);
 }
 
 TEST_F(DataExchange, MissingControlFailsWithoutAPrompt)
 {
     int value = 7;
-    dialog.exchange = [&](CDataExchange* pDX) { DDX_Text(pDX, missing, value); };
+    dialog.exchange = [&](CDataExchange* dx) { DDX_Text(dx, kMissing, value); };
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_FALSE(dialog.UpdateData(FALSE));
@@ -188,9 +188,9 @@ TEST_F(DataExchange, WithoutAWindowFails)
 
 TEST_F(DataExchange, ReadsHiddenAndDisabledControlsLikeAnyOther)
 {
-    dialog.exchange = [this](CDataExchange* pDX) {
-        DDX_Text(pDX, hiddenEdit, first);
-        DDX_Text(pDX, disabledEdit, second);
+    dialog.exchange = [this](CDataExchange* dx) {
+        DDX_Text(dx, kHiddenEdit, first);
+        DDX_Text(dx, kDisabledEdit, second);
     };
     EXPECT_TRUE(dialog.UpdateData(TRUE));
     EXPECT_EQ(4, first);
@@ -198,8 +198,8 @@ TEST_F(DataExchange, ReadsHiddenAndDisabledControlsLikeAnyOther)
     first = 40;
     second = 50;
     EXPECT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(L"40", dialog.Text(hiddenEdit));
-    EXPECT_EQ(L"50", dialog.Text(disabledEdit));
+    EXPECT_EQ(L"40", dialog.Text(kHiddenEdit));
+    EXPECT_EQ(L"50", dialog.Text(kDisabledEdit));
 }
 
 class UnfocusableControl : public DataExchange, public testing::WithParamInterface<Id>
@@ -209,39 +209,39 @@ class UnfocusableControl : public DataExchange, public testing::WithParamInterfa
 TEST_P(UnfocusableControl, FailsAndLeavesTheFocus)
 {
     dialog.SetText(GetParam(), L"junk");
-    dialog.exchange = [this](CDataExchange* pDX) { DDX_Text(pDX, GetParam(), first); };
+    dialog.exchange = [this](CDataExchange* dx) { DDX_Text(dx, GetParam(), first); };
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
     EXPECT_EQ(1u, boxes.Count());
-    EXPECT_EQ(dialog.Item(firstEdit), ::GetFocus());
+    EXPECT_EQ(dialog.Item(kFirstEdit), ::GetFocus());
 }
 
-INSTANTIATE_TEST_SUITE_P(HiddenOrDisabled, UnfocusableControl, testing::Values(hiddenEdit, disabledEdit));
+INSTANTIATE_TEST_SUITE_P(HiddenOrDisabled, UnfocusableControl, testing::Values(kHiddenEdit, kDisabledEdit));
 
 // The lock: while a window exchanges, its control notifications do not reach its handlers.
 
 TEST_F(DataExchange, ChangeByTheProgramIsToldOutsideOfIt)
 {
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, LoadTellsOfNoChange)
 {
     EXPECT_TRUE(dialog.UpdateData(FALSE));
-    EXPECT_EQ(L"10", dialog.Text(firstEdit));
+    EXPECT_EQ(L"10", dialog.Text(kFirstEdit));
     EXPECT_TRUE(dialog.notifications.empty());
 }
 
 TEST_F(DataExchange, SaveTellsOfNoChange)
 {
-    dialog.exchange = [this](CDataExchange*) { dialog.SetText(firstEdit, L"set while saving"); };
+    dialog.exchange = [this](CDataExchange*) { dialog.SetText(kFirstEdit, L"set while saving"); };
     EXPECT_TRUE(dialog.UpdateData(TRUE));
     EXPECT_TRUE(dialog.notifications.empty());
 }
 
 TEST_F(DataExchange, PromptsFocusChangesAreNotTold)
 {
-    dialog.SetText(firstEdit, L"junk");
+    dialog.SetText(kFirstEdit, L"junk");
     dialog.notifications.clear();
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
@@ -252,9 +252,9 @@ TEST_F(DataExchange, PromptsFocusChangesAreNotTold)
 TEST_F(DataExchange, OtherWindowsAreToldMeanwhile)
 {
     ExchangeDialog other;
-    other.Create(dialogTemplate);
+    other.Create(kDialogTemplate);
     other.notifications.clear();
-    dialog.exchange = [&](CDataExchange*) { other.SetText(firstEdit, L"typed"); };
+    dialog.exchange = [&](CDataExchange*) { other.SetText(kFirstEdit, L"typed"); };
     EXPECT_TRUE(dialog.UpdateData(FALSE));
     EXPECT_FALSE(other.notifications.empty());
 }
@@ -270,13 +270,13 @@ TEST_F(DataExchange, KillFocusIsHandledOnceAroundAPrompt)
         validated.push_back(notification.id);
         EXPECT_FALSE(dialog.UpdateData(TRUE));
     };
-    dialog.SetText(firstEdit, L"junk");
+    dialog.SetText(kFirstEdit, L"junk");
     const MessageBoxes boxes;
-    ::SetFocus(dialog.Item(secondEdit));
+    ::SetFocus(dialog.Item(kSecondEdit));
     PumpMessages();
-    EXPECT_EQ(std::vector<int>{firstEdit}, validated);
+    EXPECT_EQ(std::vector<int>{kFirstEdit}, validated);
     EXPECT_EQ(1u, boxes.Count());
-    EXPECT_EQ(dialog.Item(firstEdit), ::GetFocus());
+    EXPECT_EQ(dialog.Item(kFirstEdit), ::GetFocus());
     dialog.onNotification = nullptr;
 }
 
@@ -291,51 +291,51 @@ TEST_F(DataExchange, NestedOnItselfFailsAndDoesNothing)
     EXPECT_TRUE(dialog.UpdateData(FALSE));
     EXPECT_EQ(1, entered);
     EXPECT_FALSE(nested);
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, NestedOnAnotherWindowKeepsTheOuterLock)
 {
     ExchangeDialog other;
-    other.Create(dialogTemplate);
+    other.Create(kDialogTemplate);
     dialog.notifications.clear();
     BOOL nested = FALSE;
     dialog.exchange = [&](CDataExchange*) {
         nested = other.UpdateData(TRUE);
-        dialog.SetText(firstEdit, L"after");
+        dialog.SetText(kFirstEdit, L"after");
     };
     EXPECT_TRUE(dialog.UpdateData(FALSE));
     EXPECT_TRUE(nested);
     EXPECT_TRUE(dialog.notifications.empty());
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, LockEndsWithSuccess)
 {
     dialog.UpdateData(FALSE);
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, LockEndsWithARefusedValue)
 {
-    dialog.SetText(firstEdit, L"junk");
+    dialog.SetText(kFirstEdit, L"junk");
     const MessageBoxes boxes;
     EXPECT_FALSE(dialog.UpdateData(TRUE));
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, LockEndsWithAMissingControl)
 {
-    dialog.exchange = [](CDataExchange* pDX) { pDX->PrepareCtrl(missing); };
+    dialog.exchange = [](CDataExchange* dx) { dx->PrepareCtrl(kMissing); };
     EXPECT_FALSE(dialog.UpdateData(TRUE));
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 TEST_F(DataExchange, LockEndsWithAForeignException)
 {
     dialog.exchange = [](CDataExchange*) { throw std::runtime_error("host"); };
     EXPECT_THROW(dialog.UpdateData(TRUE), std::runtime_error);
-    EXPECT_TRUE(Notifies(firstEdit));
+    EXPECT_TRUE(Notifies(kFirstEdit));
 }
 
 // WM_NOTIFY is held as well; other messages are not.
@@ -361,10 +361,10 @@ END_MESSAGE_MAP()
 TEST(DataExchangeLock, HoldsCommandsAndNotifiesOnly)
 {
     MessageDialog dialog;
-    dialog.Create(dialogTemplate);
-    NMHDR header = {dialog.Item(firstEdit), firstEdit, NM_CLICK};
+    dialog.Create(kDialogTemplate);
+    NMHDR header = {dialog.Item(kFirstEdit), kFirstEdit, NM_CLICK};
     const auto send = [&](CDataExchange* = nullptr) {
-        dialog.SendMessage(WM_NOTIFY, firstEdit, reinterpret_cast<LPARAM>(&header));
+        dialog.SendMessage(WM_NOTIFY, kFirstEdit, reinterpret_cast<LPARAM>(&header));
         dialog.SendMessage(WM_APP);
     };
     dialog.exchange = send;

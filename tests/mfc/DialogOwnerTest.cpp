@@ -164,7 +164,7 @@ TEST(DialogOwner, ThatDiesTakesTheDialogAlong)
 {
     Owner owner;
     ModalDialog dialog(&owner);
-    EXPECT_EQ(-1, RunWith(dialog, [&] { owner.PostMessage(destroyYourself); }));
+    EXPECT_EQ(-1, RunWith(dialog, [&] { owner.PostMessage(kDestroyYourself); }));
     EXPECT_EQ(nullptr, dialog.m_hWnd);
     EXPECT_EQ(5, RunWith(dialog, [&] { dialog.EndDialog(5); })) << "runs again";
 }
@@ -174,7 +174,7 @@ TEST(DialogOwner, ThatDiesTakesNestedDialogsAlong)
     Owner owner;
     ModalDialog outer(&owner);
     ModalDialog inner;
-    outer.onPush = [&] { EXPECT_EQ(-1, RunWith(inner, [&] { owner.PostMessage(destroyYourself); })); };
+    outer.onPush = [&] { EXPECT_EQ(-1, RunWith(inner, [&] { owner.PostMessage(kDestroyYourself); })); };
     EXPECT_EQ(-1, RunWith(outer, [&] { outer.Command(IDC_PUSH); }));
 }
 
@@ -224,6 +224,6 @@ TEST_F(WaitingDialog, IsWokenByASentCommand)
 
 TEST_F(WaitingDialog, IsWokenByTheDeathOfItsOwner)
 {
-    EXPECT_EQ(-1, RunAndSend([&] { owner.SendMessage(destroyYourself); }));
+    EXPECT_EQ(-1, RunAndSend([&] { owner.SendMessage(kDestroyYourself); }));
 }
 } // namespace

@@ -45,7 +45,7 @@ public:
     int saves = 0;
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override { saves += pDX->m_bSaveAndValidate; }
+    void DoDataExchange(CDataExchange* dx) override { saves += dx->m_bSaveAndValidate; }
 };
 
 TEST(DialogPage, IgnoresOkAndCancelOfItsOwn)

@@ -8,28 +8,28 @@ using namespace test;
 
 enum Id : WORD
 {
-    plainId = 101,
-    numberId = 102,
-    readOnlyId = 103
+    kPlainId = 101,
+    kNumberId = 102,
+    kReadOnlyId = 103
 };
-constexpr DWORD style = WS_VISIBLE | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL;
+constexpr DWORD kStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP | ES_AUTOHSCROLL;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 60,
-                                    {{L"EDIT", L"", style, 5, 5, 100, 12, plainId},
-                                     {L"EDIT", L"", style | ES_NUMBER, 5, 20, 100, 12, numberId},
-                                     {L"EDIT", L"", style | ES_READONLY, 5, 35, 100, 12, readOnlyId}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 60,
+                                     {{L"EDIT", L"", kStyle, 5, 5, 100, 12, kPlainId},
+                                      {L"EDIT", L"", kStyle | ES_NUMBER, 5, 20, 100, 12, kNumberId},
+                                      {L"EDIT", L"", kStyle | ES_READONLY, 5, 35, 100, 12, kReadOnlyId}});
 
 class Edit : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        edit.SubclassWindow(dialog.Item(plainId));
+        dialog.Create(kDialogTemplate);
+        edit.SubclassWindow(dialog.Item(kPlainId));
         dialog.notifications.clear();
     }
 
-    static void Type(const CWnd& wnd, LPCTSTR text)
+    static void Type(const CWnd& wnd, const wchar_t* text)
     {
         for (; *text; ++text)
             wnd.SendMessage(WM_CHAR, *text, 1);
@@ -54,23 +54,23 @@ TEST_F(Edit, GivesItsTextWhole)
 TEST_F(Edit, TellsOfTyping)
 {
     Type(edit, L"1");
-    EXPECT_EQ((std::vector<Notification>{{plainId, EN_UPDATE}, {plainId, EN_CHANGE}}), dialog.notifications);
+    EXPECT_EQ((std::vector<Notification>{{kPlainId, EN_UPDATE}, {kPlainId, EN_CHANGE}}), dialog.notifications);
 }
 
 TEST_F(Edit, ForNumbersTakesDigitsOnlyFromTheKeyboard)
 {
-    Type(*dialog.GetDlgItem(numberId), L"1a-2");
-    EXPECT_EQ(L"12", dialog.Text(numberId));
-    dialog.SetText(numberId, L"-5a");
-    EXPECT_EQ(L"-5a", dialog.Text(numberId));
+    Type(*dialog.GetDlgItem(kNumberId), L"1a-2");
+    EXPECT_EQ(L"12", dialog.Text(kNumberId));
+    dialog.SetText(kNumberId, L"-5a");
+    EXPECT_EQ(L"-5a", dialog.Text(kNumberId));
 }
 
 TEST_F(Edit, ReadOnlyShowsWhatTheProgramSets)
 {
-    Type(*dialog.GetDlgItem(readOnlyId), L"typed");
-    EXPECT_EQ(L"", dialog.Text(readOnlyId));
-    dialog.SetText(readOnlyId, L"set");
-    EXPECT_EQ(L"set", dialog.Text(readOnlyId));
+    Type(*dialog.GetDlgItem(kReadOnlyId), L"typed");
+    EXPECT_EQ(L"", dialog.Text(kReadOnlyId));
+    dialog.SetText(kReadOnlyId, L"set");
+    EXPECT_EQ(L"set", dialog.Text(kReadOnlyId));
 }
 
 TEST_F(Edit, DisablingItTakesTheFocusFromTheThread)
@@ -79,6 +79,6 @@ TEST_F(Edit, DisablingItTakesTheFocusFromTheThread)
     dialog.notifications.clear();
     edit.EnableWindow(FALSE);
     EXPECT_NE(edit.m_hWnd, ::GetFocus());
-    EXPECT_EQ((std::vector<Notification>{{plainId, EN_KILLFOCUS}}), dialog.notifications);
+    EXPECT_EQ((std::vector<Notification>{{kPlainId, EN_KILLFOCUS}}), dialog.notifications);
 }
 } // namespace

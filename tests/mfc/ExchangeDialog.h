@@ -31,13 +31,13 @@ public:
         GetDlgItem(id)->GetWindowText(text);
         return text.GetString();
     }
-    void SetText(int id, LPCTSTR text) { ::SetWindowText(Item(id), text); }
+    void SetText(int id, const wchar_t* text) { ::SetWindowText(Item(id), text); }
 
 protected:
-    void DoDataExchange(CDataExchange* pDX) override
+    void DoDataExchange(CDataExchange* dx) override
     {
         if (exchange)
-            exchange(pDX);
+            exchange(dx);
     }
 
     BOOL OnCommand(WPARAM wParam, LPARAM) override

@@ -13,40 +13,40 @@ using namespace test;
 
 enum Id : WORD
 {
-    edit = 101,
-    checkBox = 102,
-    threeState = 103,
-    firstRadio = 110,
-    secondRadio,
-    thirdRadio,
-    betweenButton,
-    nextGroup,
-    cutFirst = 120,
-    cutLabel,
-    cutSecond
+    kEdit = 101,
+    kCheckBox = 102,
+    kThreeState = 103,
+    kFirstRadio = 110,
+    kSecondRadio,
+    kThirdRadio,
+    kBetweenButton,
+    kNextGroup,
+    kCutFirst = 120,
+    kCutLabel,
+    kCutSecond
 };
 
-constexpr DWORD editStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
-constexpr DWORD radioStyle = WS_VISIBLE | BS_AUTORADIOBUTTON;
+constexpr DWORD kEditStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
+constexpr DWORD kRadioStyle = WS_VISIBLE | BS_AUTORADIOBUTTON;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 150,
-                                    {{L"EDIT", L"", editStyle | ES_AUTOHSCROLL, 5, 5, 50, 12, edit},
-                                     {L"BUTTON", L"", WS_VISIBLE | BS_AUTOCHECKBOX, 5, 20, 50, 12, checkBox},
-                                     {L"BUTTON", L"", WS_VISIBLE | BS_AUTO3STATE, 5, 35, 50, 12, threeState},
-                                     {L"BUTTON", L"", radioStyle | WS_GROUP, 5, 50, 50, 12, firstRadio},
-                                     {L"STATIC", L"between", WS_VISIBLE, 60, 50, 50, 12, 0xFFFF},
-                                     {L"BUTTON", L"", WS_VISIBLE, 60, 65, 50, 12, betweenButton},
-                                     {L"BUTTON", L"", BS_AUTORADIOBUTTON, 5, 65, 50, 12, secondRadio},
-                                     {L"BUTTON", L"", radioStyle, 5, 80, 50, 12, thirdRadio},
-                                     {L"BUTTON", L"", radioStyle | WS_GROUP, 5, 95, 50, 12, nextGroup},
-                                     {L"BUTTON", L"", radioStyle | WS_GROUP, 5, 110, 50, 12, cutFirst},
-                                     {L"STATIC", L"ends it", WS_VISIBLE | WS_GROUP, 60, 110, 50, 12, cutLabel},
-                                     {L"BUTTON", L"", radioStyle, 5, 125, 50, 12, cutSecond}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 150,
+                                     {{L"EDIT", L"", kEditStyle | ES_AUTOHSCROLL, 5, 5, 50, 12, kEdit},
+                                      {L"BUTTON", L"", WS_VISIBLE | BS_AUTOCHECKBOX, 5, 20, 50, 12, kCheckBox},
+                                      {L"BUTTON", L"", WS_VISIBLE | BS_AUTO3STATE, 5, 35, 50, 12, kThreeState},
+                                      {L"BUTTON", L"", kRadioStyle | WS_GROUP, 5, 50, 50, 12, kFirstRadio},
+                                      {L"STATIC", L"between", WS_VISIBLE, 60, 50, 50, 12, 0xFFFF},
+                                      {L"BUTTON", L"", WS_VISIBLE, 60, 65, 50, 12, kBetweenButton},
+                                      {L"BUTTON", L"", BS_AUTORADIOBUTTON, 5, 65, 50, 12, kSecondRadio},
+                                      {L"BUTTON", L"", kRadioStyle, 5, 80, 50, 12, kThirdRadio},
+                                      {L"BUTTON", L"", kRadioStyle | WS_GROUP, 5, 95, 50, 12, kNextGroup},
+                                      {L"BUTTON", L"", kRadioStyle | WS_GROUP, 5, 110, 50, 12, kCutFirst},
+                                      {L"STATIC", L"ends it", WS_VISIBLE | WS_GROUP, 60, 110, 50, 12, kCutLabel},
+                                      {L"BUTTON", L"", kRadioStyle, 5, 125, 50, 12, kCutSecond}});
 
 class ExchangeValues : public testing::Test
 {
 protected:
-    void SetUp() override { dialog.Create(dialogTemplate); }
+    void SetUp() override { dialog.Create(kDialogTemplate); }
 
     template <typename Statement>
     BOOL Run(BOOL save, Statement statement)
@@ -58,14 +58,14 @@ protected:
     template <typename Value>
     BOOL Exchange(BOOL save, Value& value)
     {
-        return Run(save, [&](CDataExchange* pDX) { DDX_Text(pDX, edit, value); });
+        return Run(save, [&](CDataExchange* dx) { DDX_Text(dx, kEdit, value); });
     }
 
     template <typename Value>
     std::wstring Shown(Value value)
     {
         EXPECT_TRUE(Exchange(FALSE, value));
-        return dialog.Text(edit);
+        return dialog.Text(kEdit);
     }
 
     LRESULT State(int id) const { return dialog.GetDlgItem(id)->SendMessage(BM_GETCHECK); }
@@ -77,7 +77,7 @@ protected:
 
 struct IntCase
 {
-    LPCTSTR text;
+    const wchar_t* text;
     int value;
 };
 
@@ -88,7 +88,7 @@ class AcceptedInt : public ExchangeValues, public testing::WithParamInterface<In
 TEST_P(AcceptedInt, IsRead)
 {
     int value = -77;
-    dialog.SetText(edit, GetParam().text);
+    dialog.SetText(kEdit, GetParam().text);
     EXPECT_TRUE(Exchange(TRUE, value));
     EXPECT_EQ(GetParam().value, value);
 }
@@ -101,14 +101,14 @@ INSTANTIATE_TEST_SUITE_P(Texts, AcceptedInt,
                                          IntCase{L"-99999999999999999999", INT_MIN},
                                          IntCase{L"99999999999999999999", INT_MAX}));
 
-class RefusedInt : public ExchangeValues, public testing::WithParamInterface<LPCTSTR>
+class RefusedInt : public ExchangeValues, public testing::WithParamInterface<const wchar_t*>
 {
 };
 
 TEST_P(RefusedInt, PromptsAndLeavesTheMember)
 {
     int value = -77;
-    dialog.SetText(edit, GetParam());
+    dialog.SetText(kEdit, GetParam());
     const MessageBoxes boxes;
     EXPECT_FALSE(Exchange(TRUE, value));
     EXPECT_EQ(1u, boxes.Count());
@@ -130,7 +130,7 @@ TEST_F(ExchangeValues, IntIsShownInDecimal)
 
 struct FloatCase
 {
-    LPCTSTR text;
+    const wchar_t* text;
     float value;
 };
 
@@ -141,7 +141,7 @@ class AcceptedFloat : public ExchangeValues, public testing::WithParamInterface<
 TEST_P(AcceptedFloat, IsRead)
 {
     float value = -77;
-    dialog.SetText(edit, GetParam().text);
+    dialog.SetText(kEdit, GetParam().text);
     EXPECT_TRUE(Exchange(TRUE, value));
     EXPECT_EQ(GetParam().value, value);
 }
@@ -152,14 +152,14 @@ INSTANTIATE_TEST_SUITE_P(Texts, AcceptedFloat,
                                          FloatCase{L"1e3", 1000}, FloatCase{L"1E-2", 0.01f}, FloatCase{L"1e+006", 1e6f},
                                          FloatCase{L"16777217", 16777216}));
 
-class RefusedFloat : public ExchangeValues, public testing::WithParamInterface<LPCTSTR>
+class RefusedFloat : public ExchangeValues, public testing::WithParamInterface<const wchar_t*>
 {
 };
 
 TEST_P(RefusedFloat, PromptsAndLeavesTheMember)
 {
     float value = -77;
-    dialog.SetText(edit, GetParam());
+    dialog.SetText(kEdit, GetParam());
     const MessageBoxes boxes;
     EXPECT_FALSE(Exchange(TRUE, value));
     EXPECT_EQ(1u, boxes.Count());
@@ -209,9 +209,9 @@ TEST_F(ExchangeValues, EqualTextIsNotSetAgain)
 {
     CString value(L"caret");
     Shown(value);
-    ::SendMessage(dialog.Item(edit), EM_SETSEL, 2, 3);
+    ::SendMessage(dialog.Item(kEdit), EM_SETSEL, 2, 3);
     Shown(value);
-    EXPECT_EQ(MAKELRESULT(2, 3), ::SendMessage(dialog.Item(edit), EM_GETSEL, 0, 0));
+    EXPECT_EQ(MAKELRESULT(2, 3), ::SendMessage(dialog.Item(kEdit), EM_GETSEL, 0, 0));
 }
 
 // Length and range
@@ -221,16 +221,16 @@ class MaxChars : public ExchangeValues
 protected:
     BOOL ExchangeName(BOOL save)
     {
-        return Run(save, [this](CDataExchange* pDX) {
-            DDX_Text(pDX, edit, name);
-            DDV_MaxChars(pDX, name, 5);
+        return Run(save, [this](CDataExchange* dx) {
+            DDX_Text(dx, kEdit, name);
+            DDV_MaxChars(dx, name, 5);
         });
     }
 
-    void Type(LPCTSTR text)
+    void Type(const wchar_t* text)
     {
         for (; *text; ++text)
-            ::SendMessage(dialog.Item(edit), WM_CHAR, *text, 1);
+            ::SendMessage(dialog.Item(kEdit), WM_CHAR, *text, 1);
     }
 
     CString name;
@@ -240,7 +240,7 @@ TEST_F(MaxChars, LimitsWhatCanBeTyped)
 {
     ExchangeName(FALSE);
     Type(L"1234567");
-    EXPECT_EQ(L"12345", dialog.Text(edit));
+    EXPECT_EQ(L"12345", dialog.Text(kEdit));
 }
 
 TEST_F(MaxChars, ShowsALongerTextWholeAndRefusesToSaveIt)
@@ -248,16 +248,16 @@ TEST_F(MaxChars, ShowsALongerTextWholeAndRefusesToSaveIt)
     name = L"longer name";
     const MessageBoxes boxes;
     EXPECT_TRUE(ExchangeName(FALSE));
-    EXPECT_EQ(L"longer name", dialog.Text(edit));
+    EXPECT_EQ(L"longer name", dialog.Text(kEdit));
     EXPECT_FALSE(ExchangeName(TRUE));
     ASSERT_EQ(1u, boxes.Count());
     EXPECT_NE(std::wstring::npos, boxes.Shown()[0].text.find(L"5"));
-    EXPECT_EQ(dialog.Item(edit), ::GetFocus());
+    EXPECT_EQ(dialog.Item(kEdit), ::GetFocus());
 }
 
 TEST_F(MaxChars, AcceptsTheLongestText)
 {
-    dialog.SetText(edit, L"12345");
+    dialog.SetText(kEdit, L"12345");
     EXPECT_TRUE(ExchangeName(TRUE));
     EXPECT_STREQ(L"12345", name);
 }
@@ -267,9 +267,9 @@ class MinMaxInt : public ExchangeValues
 protected:
     BOOL ExchangeNumber(BOOL save)
     {
-        return Run(save, [this](CDataExchange* pDX) {
-            DDX_Text(pDX, edit, number);
-            DDV_MinMaxInt(pDX, number, -3, 200);
+        return Run(save, [this](CDataExchange* dx) {
+            DDX_Text(dx, kEdit, number);
+            DDV_MinMaxInt(dx, number, -3, 200);
         });
     }
 
@@ -278,18 +278,18 @@ protected:
 
 TEST_F(MinMaxInt, IncludesItsBounds)
 {
-    for (const LPCTSTR text : {L"-3", L"0", L"200"})
+    for (const wchar_t* const text : {L"-3", L"0", L"200"})
     {
-        dialog.SetText(edit, text);
+        dialog.SetText(kEdit, text);
         EXPECT_TRUE(ExchangeNumber(TRUE)) << text;
     }
 }
 
 TEST_F(MinMaxInt, RefusesWhatLiesOutsideAndNamesTheBounds)
 {
-    for (const LPCTSTR text : {L"-4", L"201"})
+    for (const wchar_t* const text : {L"-4", L"201"})
     {
-        dialog.SetText(edit, text);
+        dialog.SetText(kEdit, text);
         const MessageBoxes boxes;
         EXPECT_FALSE(ExchangeNumber(TRUE)) << text;
         ASSERT_EQ(1u, boxes.Count());
@@ -303,7 +303,7 @@ TEST_F(MinMaxInt, ShowsAValueOutsideAndRefusesItAtTheNextSave)
     number = 250;
     const MessageBoxes boxes;
     EXPECT_TRUE(ExchangeNumber(FALSE));
-    EXPECT_EQ(L"250", dialog.Text(edit));
+    EXPECT_EQ(L"250", dialog.Text(kEdit));
     EXPECT_FALSE(ExchangeNumber(TRUE));
     EXPECT_EQ(1u, boxes.Count());
 }
@@ -314,10 +314,10 @@ TEST_F(ExchangeValues, CheckGoesBothWays)
 {
     for (int value : {1, 0})
     {
-        EXPECT_TRUE(Run(FALSE, [&](CDataExchange* pDX) { DDX_Check(pDX, checkBox, value); }));
-        EXPECT_EQ(value, State(checkBox));
+        EXPECT_TRUE(Run(FALSE, [&](CDataExchange* dx) { DDX_Check(dx, kCheckBox, value); }));
+        EXPECT_EQ(value, State(kCheckBox));
         int read = -1;
-        EXPECT_TRUE(Run(TRUE, [&](CDataExchange* pDX) { DDX_Check(pDX, checkBox, read); }));
+        EXPECT_TRUE(Run(TRUE, [&](CDataExchange* dx) { DDX_Check(dx, kCheckBox, read); }));
         EXPECT_EQ(value, read);
     }
 }
@@ -325,17 +325,17 @@ TEST_F(ExchangeValues, CheckGoesBothWays)
 TEST_F(ExchangeValues, CheckKnowsTheThirdState)
 {
     int value = 2;
-    EXPECT_TRUE(Run(FALSE, [&](CDataExchange* pDX) { DDX_Check(pDX, threeState, value); }));
-    EXPECT_EQ(BST_INDETERMINATE, State(threeState));
+    EXPECT_TRUE(Run(FALSE, [&](CDataExchange* dx) { DDX_Check(dx, kThreeState, value); }));
+    EXPECT_EQ(BST_INDETERMINATE, State(kThreeState));
 }
 
 TEST_F(ExchangeValues, CheckOutOfRangeIsUnchecked)
 {
     for (int value : {-1, 3, 256})
     {
-        dialog.GetDlgItem(threeState)->SendMessage(BM_SETCHECK, BST_CHECKED);
-        EXPECT_TRUE(Run(FALSE, [&](CDataExchange* pDX) { DDX_Check(pDX, threeState, value); }));
-        EXPECT_EQ(BST_UNCHECKED, State(threeState)) << value;
+        dialog.GetDlgItem(kThreeState)->SendMessage(BM_SETCHECK, BST_CHECKED);
+        EXPECT_TRUE(Run(FALSE, [&](CDataExchange* dx) { DDX_Check(dx, kThreeState, value); }));
+        EXPECT_EQ(BST_UNCHECKED, State(kThreeState)) << value;
     }
 }
 
@@ -344,70 +344,70 @@ class Radio : public ExchangeValues
 protected:
     BOOL Load(Id first, int value)
     {
-        return Run(FALSE, [&](CDataExchange* pDX) { DDX_Radio(pDX, first, value); });
+        return Run(FALSE, [&](CDataExchange* dx) { DDX_Radio(dx, first, value); });
     }
 
     int Save(Id first)
     {
         int value = -77;
-        EXPECT_TRUE(Run(TRUE, [&](CDataExchange* pDX) { DDX_Radio(pDX, first, value); }));
+        EXPECT_TRUE(Run(TRUE, [&](CDataExchange* dx) { DDX_Radio(dx, first, value); }));
         return value;
     }
 
-    std::vector<LRESULT> States() const { return {State(firstRadio), State(secondRadio), State(thirdRadio)}; }
+    std::vector<LRESULT> States() const { return {State(kFirstRadio), State(kSecondRadio), State(kThirdRadio)}; }
 };
 
 TEST_F(Radio, LoadChecksOneAndUnchecksTheRest)
 {
-    EXPECT_TRUE(Load(firstRadio, 0));
+    EXPECT_TRUE(Load(kFirstRadio, 0));
     EXPECT_EQ((std::vector<LRESULT>{1, 0, 0}), States());
-    EXPECT_TRUE(Load(firstRadio, 2));
+    EXPECT_TRUE(Load(kFirstRadio, 2));
     EXPECT_EQ((std::vector<LRESULT>{0, 0, 1}), States());
 }
 
 TEST_F(Radio, CountsHiddenButtonsAndSkipsOtherControls)
 {
-    EXPECT_TRUE(Load(firstRadio, 1));
+    EXPECT_TRUE(Load(kFirstRadio, 1));
     EXPECT_EQ((std::vector<LRESULT>{0, 1, 0}), States());
-    EXPECT_EQ(1, Save(firstRadio));
+    EXPECT_EQ(1, Save(kFirstRadio));
 }
 
 TEST_F(Radio, LoadOfAValueOutsideChecksNone)
 {
     for (const int value : {-1, 3})
     {
-        Load(firstRadio, 0);
-        EXPECT_TRUE(Load(firstRadio, value));
+        Load(kFirstRadio, 0);
+        EXPECT_TRUE(Load(kFirstRadio, value));
         EXPECT_EQ((std::vector<LRESULT>{0, 0, 0}), States()) << value;
     }
 }
 
 TEST_F(Radio, SaveGivesTheIndexOfTheCheckedOne)
 {
-    EXPECT_EQ(-1, Save(firstRadio));
-    dialog.GetDlgItem(thirdRadio)->SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_EQ(2, Save(firstRadio));
+    EXPECT_EQ(-1, Save(kFirstRadio));
+    dialog.GetDlgItem(kThirdRadio)->SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_EQ(2, Save(kFirstRadio));
 }
 
 TEST_F(Radio, EndsBeforeTheNextGroup)
 {
-    dialog.GetDlgItem(nextGroup)->SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_EQ(-1, Save(firstRadio));
-    Load(firstRadio, 0);
-    EXPECT_EQ(BST_CHECKED, State(nextGroup));
+    dialog.GetDlgItem(kNextGroup)->SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_EQ(-1, Save(kFirstRadio));
+    Load(kFirstRadio, 0);
+    EXPECT_EQ(BST_CHECKED, State(kNextGroup));
 }
 
 TEST_F(Radio, LabelThatStartsAGroupEndsIt)
 {
-    dialog.GetDlgItem(cutSecond)->SendMessage(BM_SETCHECK, BST_CHECKED);
-    EXPECT_EQ(-1, Save(cutFirst));
+    dialog.GetDlgItem(kCutSecond)->SendMessage(BM_SETCHECK, BST_CHECKED);
+    EXPECT_EQ(-1, Save(kCutFirst));
 }
 
 TEST_F(Radio, ExchangeTellsNothing)
 {
     dialog.notifications.clear();
-    Load(firstRadio, 1);
-    Save(firstRadio);
+    Load(kFirstRadio, 1);
+    Save(kFirstRadio);
     EXPECT_TRUE(dialog.notifications.empty());
 }
 

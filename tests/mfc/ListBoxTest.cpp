@@ -6,23 +6,23 @@ namespace
 {
 using namespace test;
 
-constexpr WORD singleId = 101;
-constexpr WORD multipleId = 102;
-constexpr DWORD listStyle = WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY;
+constexpr WORD kSingleId = 101;
+constexpr WORD kMultipleId = 102;
+constexpr DWORD kListStyle = WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 60,
-                                    {{L"LISTBOX", L"", listStyle, 5, 5, 80, 50, singleId},
-                                     {L"LISTBOX", L"", listStyle | LBS_EXTENDEDSEL, 95, 5, 80, 50, multipleId}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 60,
+                                     {{L"LISTBOX", L"", kListStyle, 5, 5, 80, 50, kSingleId},
+                                      {L"LISTBOX", L"", kListStyle | LBS_EXTENDEDSEL, 95, 5, 80, 50, kMultipleId}});
 
 class ListBox : public testing::Test
 {
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        list.SubclassWindow(dialog.Item(singleId));
-        multiple.SubclassWindow(dialog.Item(multipleId));
-        for (const LPCTSTR text : {L"a", L"b", L"c"})
+        dialog.Create(kDialogTemplate);
+        list.SubclassWindow(dialog.Item(kSingleId));
+        multiple.SubclassWindow(dialog.Item(kMultipleId));
+        for (const wchar_t* const text : {L"a", L"b", L"c"})
         {
             list.AddString(text);
             multiple.AddString(text);

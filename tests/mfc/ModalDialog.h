@@ -39,11 +39,11 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
 
-    void DoDataExchange(CDataExchange* pDX) override
+    void DoDataExchange(CDataExchange* dx) override
     {
-        calls.emplace_back(pDX->m_bSaveAndValidate ? "save" : "load");
-        DDX_Text(pDX, IDC_NUMBER, number);
-        DDX_Text(pDX, hasAllControls ? IDC_OTHER : IDC_NUMBER + 100, other);
+        calls.emplace_back(dx->m_bSaveAndValidate ? "save" : "load");
+        DDX_Text(dx, IDC_NUMBER, number);
+        DDX_Text(dx, hasAllControls ? IDC_OTHER : IDC_NUMBER + 100, other);
     }
 
     BOOL OnInitDialog() override

@@ -4,6 +4,6 @@ namespace test
 {
 BEGIN_MESSAGE_MAP(Owner, TestDialog)
     ON_MESSAGE(WM_ENTERIDLE, &Owner::OnEnterIdle)
-    ON_MESSAGE(destroyYourself, &Owner::OnDestroyYourself)
+    ON_MESSAGE(kDestroyYourself, &Owner::OnDestroyYourself)
 END_MESSAGE_MAP()
 } // namespace test

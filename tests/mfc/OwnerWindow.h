@@ -7,7 +7,7 @@
 namespace test
 {
 // Posted or sent to an owner.
-constexpr UINT destroyYourself = WM_APP;
+constexpr UINT kDestroyYourself = WM_APP;
 
 // A window that dialogs belong to. It keeps what they tell it of idle time.
 class Owner : public TestDialog

@@ -10,7 +10,7 @@ using namespace test;
 using Names = std::vector<std::string>;
 
 // A message that no dialog takes for itself, as it takes input.
-constexpr UINT plainMessage = WM_APP;
+constexpr UINT kPlainMessage = WM_APP;
 
 // Who saw the right click or the plain message, in order.
 Names seen;
@@ -29,7 +29,7 @@ public:
 
     BOOL PreTranslateMessage(MSG* message) override
     {
-        if (message->message != WM_RBUTTONUP && message->message != plainMessage)
+        if (message->message != WM_RBUTTONUP && message->message != kPlainMessage)
             return Base::PreTranslateMessage(message);
         seen.push_back(m_name);
         return takes || Base::PreTranslateMessage(message);
@@ -117,7 +117,7 @@ TEST_F(PreTranslation, StopsAtTheInnermostDialog)
             "the inner dialog is shown", [&] { return IsShown(inner); },
             [&] {
                 EXPECT_EQ(editor.m_hWnd, ::GetParent(inner.m_hWnd));
-                ::PostMessage(inner.Item(IDC_PUSH), plainMessage, 0, 0);
+                ::PostMessage(inner.Item(IDC_PUSH), kPlainMessage, 0, 0);
             });
         script.Then("the message was handled", [&] { inner.Command(IDCANCEL); });
         inner.DoModal();

@@ -12,13 +12,13 @@ namespace
 {
 using namespace test;
 
-constexpr WORD gridId = 25030;
-constexpr WORD editId = 101;
+constexpr WORD kGridId = 25030;
+constexpr WORD kEditId = 101;
 
 const DialogTemplate
-    ownerTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 240, 200,
-                  {{L"EDIT", L"outside", WS_VISIBLE | WS_BORDER | WS_TABSTOP, 5, 5, 50, 12, editId},
-                   {L"BUTTON", L"OK", WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, 60, 5, 40, 14, IDOK}});
+    kOwnerTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 240, 200,
+                   {{L"EDIT", L"outside", WS_VISIBLE | WS_BORDER | WS_TABSTOP, 5, 5, 50, 12, kEditId},
+                    {L"BUTTON", L"OK", WS_VISIBLE | WS_TABSTOP | BS_DEFPUSHBUTTON, 60, 5, 40, 14, IDOK}});
 
 // The parent of the grid; records the changes that it is told of and the dialog keys that reached it.
 class Owner : public TestDialog
@@ -60,9 +60,9 @@ class PropertyGrid : public testing::Test
 protected:
     void SetUp() override
     {
-        owner.Create(ownerTemplate);
+        owner.Create(kOwnerTemplate);
         const DWORD style = WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP;
-        ASSERT_TRUE(grid.Create(style, {10, 50, 330, 290}, &owner, gridId));
+        ASSERT_TRUE(grid.Create(style, {10, 50, 330, 290}, &owner, kGridId));
         grid.EnableHeaderCtrl(TRUE, L"Head", L"Mode");
         grid.EnableDescriptionArea(FALSE);
         grid.SetVSDotNetLook();
@@ -72,11 +72,11 @@ protected:
         PumpMessages();
     }
 
-    CMFCPropertyGridProperty* AddRow(DWORD_PTR data, LPCTSTR value = L"No")
+    CMFCPropertyGridProperty* AddRow(DWORD_PTR data, const wchar_t* value = L"No")
     {
         auto* property = new CMFCPropertyGridProperty(L"Row", L"", nullptr, data);
         property->AllowEdit(FALSE);
-        for (LPCTSTR option : {L"No", L"Normal", L"Fine"})
+        for (const wchar_t* option : {L"No", L"Normal", L"Fine"})
             property->AddOption(option);
         property->SetValue(value);
         grid.AddProperty(property);
@@ -249,7 +249,7 @@ TEST_F(PropertyGrid, ClickOnALineStoresItAndTellsTheParentOnce)
     EXPECT_FALSE(IsListOpen());
     EXPECT_EQ(grid.m_hWnd, ::GetFocus());
     EXPECT_EQ(Changes{L"1=Fine"}, owner.changes);
-    EXPECT_EQ(gridId, owner.changedId);
+    EXPECT_EQ(kGridId, owner.changedId);
 }
 
 TEST_F(PropertyGrid, ClickOnTheCurrentLineClosesWithoutAChange)
@@ -376,9 +376,9 @@ TEST_F(PropertyGrid, LosingTheFocusClosesWithoutAChange)
     grid.SetFocus();
     PressKey(VK_F4);
     PressKey(VK_DOWN);
-    ::SetFocus(owner.Item(editId));
+    ::SetFocus(owner.Item(kEditId));
     EXPECT_FALSE(IsListOpen());
-    EXPECT_EQ(owner.Item(editId), ::GetFocus());
+    EXPECT_EQ(owner.Item(kEditId), ::GetFocus());
     EXPECT_TRUE(owner.changes.empty());
 }
 
@@ -387,13 +387,13 @@ TEST_F(PropertyGrid, TabLeavesTheGridWithTheListOpenOrClosed)
     AddRows(2);
     grid.SetFocus();
     PressKey(VK_TAB);
-    EXPECT_EQ(owner.Item(editId), ::GetFocus());
+    EXPECT_EQ(owner.Item(kEditId), ::GetFocus());
     PressKey(VK_TAB, {VK_SHIFT});
     EXPECT_EQ(grid.m_hWnd, ::GetFocus());
     PressKey(VK_F4);
     PressKey(VK_TAB);
     EXPECT_FALSE(IsListOpen());
-    EXPECT_EQ(owner.Item(editId), ::GetFocus());
+    EXPECT_EQ(owner.Item(kEditId), ::GetFocus());
     EXPECT_TRUE(owner.changes.empty());
 }
 
@@ -751,7 +751,7 @@ TEST_F(PropertyGridColours, SelectionShowsWhereTheFocusIs)
     Click(grid.m_hWnd, name);
     const int x = ColumnRect(0).right - 3;
     EXPECT_EQ(::GetSysColor(COLOR_HIGHLIGHT), At(x, name.y));
-    ::SetFocus(owner.Item(editId));
+    ::SetFocus(owner.Item(kEditId));
     EXPECT_EQ(0xC4C4C4u, At(x, name.y));
     grid.EnableWindow(FALSE);
     EXPECT_EQ(0xE1E1E1u, At(x, name.y));

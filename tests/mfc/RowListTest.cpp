@@ -7,7 +7,7 @@ namespace
 {
 using namespace test;
 
-constexpr WORD listId = 101;
+constexpr WORD kListId = 101;
 
 template <typename List>
 struct Kind;
@@ -34,10 +34,10 @@ protected:
     {
         const DialogTemplate dialogTemplate(
             WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 100,
-            {{Kind<List>::name, L"", Kind<List>::style | WS_VISIBLE, 5, 5, 100, 80, listId}});
+            {{Kind<List>::name, L"", Kind<List>::style | WS_VISIBLE, 5, 5, 100, 80, kListId}});
         dialog.Create(dialogTemplate);
-        list.SubclassWindow(dialog.Item(listId));
-        for (const LPCTSTR text : {L"zinc", L"Amber", L"amber"})
+        list.SubclassWindow(dialog.Item(kListId));
+        for (const wchar_t* const text : {L"zinc", L"Amber", L"amber"})
             list.AddString(text);
         dialog.notifications.clear();
     }
@@ -151,7 +151,7 @@ TYPED_TEST(RowList, TellsOfAChoiceByKeyboard)
     EXPECT_EQ(1, this->list.GetCurSel());
     int changes = 0;
     for (const Notification& notification : this->dialog.notifications)
-        changes += notification == Notification{listId, LBN_SELCHANGE};
+        changes += notification == Notification{kListId, LBN_SELCHANGE};
     EXPECT_EQ(1, changes);
 }
 static_assert(LBN_SELCHANGE == CBN_SELCHANGE);

@@ -6,7 +6,7 @@
 
 namespace
 {
-constexpr ULONGLONG patience = 20'000; // milliseconds; only a broken test waits that long
+constexpr ULONGLONG kPatience = 20'000; // milliseconds; only a broken test waits that long
 
 BOOL CALLBACK CloseDialog(HWND window, LPARAM)
 {
@@ -40,7 +40,7 @@ void test::Script::RunNext()
         return GiveUp();
     if (m_steps.empty() || !m_steps.front().condition())
     {
-        if (::GetTickCount64() - m_lastStep > patience)
+        if (::GetTickCount64() - m_lastStep > kPatience)
             GiveUp();
         return;
     }

@@ -8,10 +8,10 @@ namespace
 {
 using namespace test;
 
-constexpr WORD sliderId = 101;
+constexpr WORD kSliderId = 101;
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 40,
-                                    {{TRACKBAR_CLASS, L"", WS_VISIBLE | TBS_AUTOTICKS, 5, 5, 120, 20, sliderId}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 150, 40,
+                                     {{TRACKBAR_CLASS, L"", WS_VISIBLE | TBS_AUTOTICKS, 5, 5, 120, 20, kSliderId}});
 
 // A dialog that keeps the codes and positions of WM_HSCROLL.
 class SliderDialog : public TestDialog
@@ -42,8 +42,8 @@ class Slider : public testing::Test
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
-        slider.SubclassWindow(dialog.Item(sliderId));
+        dialog.Create(kDialogTemplate);
+        slider.SubclassWindow(dialog.Item(kSliderId));
     }
 
     void Press(WPARAM key)

@@ -4,7 +4,7 @@
 
 namespace
 {
-CString Trimmed(LPCTSTR text)
+CString Trimmed(const wchar_t* text)
 {
     CString string(text);
     return string.Trim();
@@ -12,7 +12,7 @@ CString Trimmed(LPCTSTR text)
 
 TEST(String, NullTextIsTheEmptyOne)
 {
-    const LPCTSTR null = nullptr;
+    const wchar_t* const null = nullptr;
     CString string(null);
     EXPECT_TRUE(string.IsEmpty());
     string += null;
@@ -64,7 +64,7 @@ TEST(String, FormatReadsNarrowTextForHs)
 TEST(String, FormatShowsANullArgument)
 {
     CString string;
-    string.Format(L"%s", static_cast<LPCTSTR>(nullptr));
+    string.Format(L"%s", static_cast<const wchar_t*>(nullptr));
     EXPECT_STREQ(L"(null)", string);
 }
 

@@ -8,22 +8,22 @@ namespace
 {
 using namespace test;
 
-constexpr DWORD editStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
-constexpr WORD placeholderId = 25004;
+constexpr DWORD kEditStyle = WS_VISIBLE | WS_BORDER | WS_TABSTOP;
+constexpr WORD kPlaceholderId = 25004;
 enum Id : WORD
 {
-    firstEdit = 101,
-    secondEdit = 102,
-    outsideEdit = 103
+    kFirstEdit = 101,
+    kSecondEdit = 102,
+    kOutsideEdit = 103
 };
 
-const DialogTemplate pageTemplate(WS_CHILD | DS_CONTROL, 60, 40,
-                                  {{L"EDIT", L"one", editStyle, 5, 5, 50, 12, firstEdit},
-                                   {L"EDIT", L"two", editStyle, 5, 25, 50, 12, secondEdit}});
+const DialogTemplate kPageTemplate(WS_CHILD | DS_CONTROL, 60, 40,
+                                   {{L"EDIT", L"one", kEditStyle, 5, 5, 50, 12, kFirstEdit},
+                                    {L"EDIT", L"two", kEditStyle, 5, 25, 50, 12, kSecondEdit}});
 
-const DialogTemplate ownerTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 300, 200,
-                                   {{L"EDIT", L"outside", editStyle, 5, 5, 50, 12, outsideEdit},
-                                    {L"STATIC", L"", 0, 70, 5, 200, 180, placeholderId}});
+const DialogTemplate kOwnerTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 300, 200,
+                                    {{L"EDIT", L"outside", kEditStyle, 5, 5, 50, 12, kOutsideEdit},
+                                     {L"STATIC", L"", 0, 70, 5, 200, 180, kPlaceholderId}});
 
 // A page that tells how often an edit lost the focus and, when asked to, puts the focus back.
 class Page : public TestDialog
@@ -59,13 +59,13 @@ class TabCtrl : public testing::Test
 protected:
     void SetUp() override
     {
-        owner.Create(ownerTemplate);
+        owner.Create(kOwnerTemplate);
         RECT rect;
-        ::GetWindowRect(owner.Item(placeholderId), &rect);
+        ::GetWindowRect(owner.Item(kPlaceholderId), &rect);
         owner.ScreenToClient(&rect);
-        ASSERT_TRUE(tabs.Create(CMFCTabCtrl::STYLE_3D, rect, &owner, placeholderId, CMFCTabCtrl::LOCATION_TOP));
+        ASSERT_TRUE(tabs.Create(CMFCTabCtrl::STYLE_3D, rect, &owner, kPlaceholderId, CMFCTabCtrl::LOCATION_TOP));
         for (Page& page : pages)
-            page.Create(pageTemplate, &tabs);
+            page.Create(kPageTemplate, &tabs);
         tabs.AddTab(&pages[0], L"Common");
         tabs.AddTab(&pages[1], L"Data");
         tabs.AddTab(&pages[2], L"");
@@ -101,8 +101,8 @@ TEST_F(TabCtrl, FirstPageAddedIsActiveAndTheOthersAreHidden)
 
 TEST_F(TabCtrl, TakesTheIdOfItsHiddenPlaceholder)
 {
-    EXPECT_EQ(placeholderId, tabs.GetDlgCtrlID());
-    EXPECT_NE(owner.Item(placeholderId), nullptr);
+    EXPECT_EQ(kPlaceholderId, tabs.GetDlgCtrlID());
+    EXPECT_NE(owner.Item(kPlaceholderId), nullptr);
 }
 
 TEST_F(TabCtrl, PageFillsTheAreaBelowTheStrip)
@@ -150,7 +150,7 @@ TEST_F(TabCtrl, SetActiveTabRefusesAnIndexOutOfRange)
 
 TEST_F(TabCtrl, ClickOnATabSwitchesAndFocusesTheStrip)
 {
-    ::SetFocus(owner.Item(outsideEdit));
+    ::SetFocus(owner.Item(kOutsideEdit));
     ClickTab(1);
     ExpectOnlyPageVisible(1);
     EXPECT_EQ(tabs.m_hWnd, ::GetFocus());
@@ -171,7 +171,7 @@ TEST_F(TabCtrl, WidthOfAnEmptyLabelGrowsWithTheDialogsFont)
     CMFCTabCtrl bigTabs;
     Page page;
     ASSERT_TRUE(bigTabs.Create(CMFCTabCtrl::STYLE_3D, {0, 0, 300, 200}, &bigOwner, 7, CMFCTabCtrl::LOCATION_TOP));
-    page.Create(pageTemplate, &bigTabs);
+    page.Create(kPageTemplate, &bigTabs);
     bigTabs.AddTab(&page, L"");
     RECT tab;
     bigTabs.SendMessage(TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&tab));
@@ -180,7 +180,7 @@ TEST_F(TabCtrl, WidthOfAnEmptyLabelGrowsWithTheDialogsFont)
 
 TEST_F(TabCtrl, CtrlTabGoesRoundInBothDirections)
 {
-    ::SetFocus(pages[0].Item(firstEdit));
+    ::SetFocus(pages[0].Item(kFirstEdit));
     PressKey(VK_TAB, {VK_CONTROL});
     ExpectOnlyPageVisible(1);
     PressKey(VK_TAB, {VK_CONTROL});
@@ -192,7 +192,7 @@ TEST_F(TabCtrl, CtrlTabGoesRoundInBothDirections)
 
 TEST_F(TabCtrl, CtrlPageKeysSwitchPages)
 {
-    ::SetFocus(pages[0].Item(firstEdit));
+    ::SetFocus(pages[0].Item(kFirstEdit));
     PressKey(VK_NEXT, {VK_CONTROL});
     ExpectOnlyPageVisible(1);
     PressKey(VK_PRIOR, {VK_CONTROL});
@@ -201,17 +201,17 @@ TEST_F(TabCtrl, CtrlPageKeysSwitchPages)
 
 TEST_F(TabCtrl, CtrlTabFromWithinAPageFocusesTheStrip)
 {
-    ::SetFocus(pages[0].Item(secondEdit));
+    ::SetFocus(pages[0].Item(kSecondEdit));
     PressKey(VK_TAB, {VK_CONTROL});
     EXPECT_EQ(tabs.m_hWnd, ::GetFocus());
 }
 
 TEST_F(TabCtrl, CtrlTabOutsideTheTabControlLeavesTheFocusWhereItIs)
 {
-    ::SetFocus(owner.Item(outsideEdit));
+    ::SetFocus(owner.Item(kOutsideEdit));
     PressKey(VK_TAB, {VK_CONTROL});
     ExpectOnlyPageVisible(1);
-    EXPECT_EQ(owner.Item(outsideEdit), ::GetFocus());
+    EXPECT_EQ(owner.Item(kOutsideEdit), ::GetFocus());
 }
 
 TEST_F(TabCtrl, ArrowsSwitchWhenTheStripHasTheFocus)
@@ -237,8 +237,9 @@ TEST_F(TabCtrl, ClickAfterAnArrowSwitchesToo)
 TEST_F(TabCtrl, TabWalksThroughTheStripAndTheActivePageOnly)
 {
     tabs.SetActiveTab(1);
-    ::SetFocus(owner.Item(outsideEdit));
-    const HWND expected[] = {tabs.m_hWnd, pages[1].Item(firstEdit), pages[1].Item(secondEdit), owner.Item(outsideEdit)};
+    ::SetFocus(owner.Item(kOutsideEdit));
+    const HWND expected[] = {tabs.m_hWnd, pages[1].Item(kFirstEdit), pages[1].Item(kSecondEdit),
+                             owner.Item(kOutsideEdit)};
     for (HWND window : expected)
     {
         PressKey(VK_TAB);
@@ -248,8 +249,9 @@ TEST_F(TabCtrl, TabWalksThroughTheStripAndTheActivePageOnly)
 
 TEST_F(TabCtrl, ShiftTabWalksTheSameWayBack)
 {
-    ::SetFocus(owner.Item(outsideEdit));
-    const HWND expected[] = {pages[0].Item(secondEdit), pages[0].Item(firstEdit), tabs.m_hWnd, owner.Item(outsideEdit)};
+    ::SetFocus(owner.Item(kOutsideEdit));
+    const HWND expected[] = {pages[0].Item(kSecondEdit), pages[0].Item(kFirstEdit), tabs.m_hWnd,
+                             owner.Item(kOutsideEdit)};
     for (HWND window : expected)
     {
         PressKey(VK_TAB, {VK_SHIFT});
@@ -263,7 +265,7 @@ TEST_F(TabCtrl, EditLosesTheFocusOnceWhileItsPageIsStillVisible)
     {
         tabs.SetActiveTab(0);
         pages[0].killFocusCount = 0;
-        ::SetFocus(pages[0].Item(firstEdit));
+        ::SetFocus(pages[0].Item(kFirstEdit));
         if (byMouse)
             ClickTab(1);
         else
@@ -277,7 +279,7 @@ TEST_F(TabCtrl, EditLosesTheFocusOnceWhileItsPageIsStillVisible)
 TEST_F(TabCtrl, RefusedValueKeepsThePageAndAsksOnce)
 {
     pages[0].refuses = true;
-    const HWND edit = pages[0].Item(firstEdit);
+    const HWND edit = pages[0].Item(kFirstEdit);
     ::SetFocus(edit);
 
     EXPECT_FALSE(tabs.SetActiveTab(1));
@@ -295,7 +297,7 @@ TEST_F(TabCtrl, RefusedValueKeepsThePageAndAsksOnce)
 TEST_F(TabCtrl, FocusSetByMessageAsksThePageToo)
 {
     pages[0].refuses = true;
-    ::SetFocus(pages[0].Item(firstEdit));
+    ::SetFocus(pages[0].Item(kFirstEdit));
     tabs.SendMessage(TCM_SETCURFOCUS, 1);
     ExpectOnlyPageVisible(0);
     EXPECT_EQ(1, pages[0].killFocusCount);
@@ -308,7 +310,7 @@ TEST_F(TabCtrl, FocusSetByMessageAsksThePageToo)
 TEST_F(TabCtrl, ValueAcceptedAfterARefusalLetsThePageGo)
 {
     pages[0].refuses = true;
-    ::SetFocus(pages[0].Item(firstEdit));
+    ::SetFocus(pages[0].Item(kFirstEdit));
     ClickTab(1);
     pages[0].refuses = false;
     ClickTab(1);
@@ -336,7 +338,7 @@ TEST_F(TabCtrl, StripAtTheBottomLiesBelowThePage)
     CMFCTabCtrl bottom;
     Page page;
     ASSERT_TRUE(bottom.Create(CMFCTabCtrl::STYLE_3D, {0, 0, 120, 120}, &owner, 7));
-    page.Create(pageTemplate, &bottom);
+    page.Create(kPageTemplate, &bottom);
     bottom.AddTab(&page, L"Below");
     RECT tab;
     bottom.SendMessage(TCM_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&tab));

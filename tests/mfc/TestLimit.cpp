@@ -21,7 +21,7 @@ private:
     std::unique_ptr<Watchdog> m_watchdog;
 };
 
-const bool isLimited = [] {
+const bool kIsLimited = [] {
     testing::UnitTest::GetInstance()->listeners().Append(new TestLimit);
     return true;
 }();

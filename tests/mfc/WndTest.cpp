@@ -12,26 +12,26 @@ using namespace test;
 
 enum Id : WORD
 {
-    listId = 101,
-    comboId = 102,
-    editId = 103,
-    buttonId = 104,
-    sliderId = 105,
-    commandId = 201
+    kListId = 101,
+    kComboId = 102,
+    kEditId = 103,
+    kButtonId = 104,
+    kSliderId = 105,
+    kCommandId = 201
 };
 
-const DialogTemplate dialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 150,
-                                    {{L"LISTBOX", L"", WS_VISIBLE | LBS_NOTIFY, 5, 5, 50, 50, listId},
-                                     {L"COMBOBOX", L"", WS_VISIBLE | CBS_DROPDOWNLIST, 65, 5, 50, 50, comboId},
-                                     {L"EDIT", L"text", WS_VISIBLE, 5, 65, 50, 12, editId},
-                                     {L"BUTTON", L"", WS_VISIBLE, 65, 65, 50, 14, buttonId},
-                                     {TRACKBAR_CLASS, L"", WS_VISIBLE, 5, 80, 100, 20, sliderId}});
+const DialogTemplate kDialogTemplate(WS_POPUP | WS_VISIBLE | WS_CAPTION, 200, 150,
+                                     {{L"LISTBOX", L"", WS_VISIBLE | LBS_NOTIFY, 5, 5, 50, 50, kListId},
+                                      {L"COMBOBOX", L"", WS_VISIBLE | CBS_DROPDOWNLIST, 65, 5, 50, 50, kComboId},
+                                      {L"EDIT", L"text", WS_VISIBLE, 5, 65, 50, 12, kEditId},
+                                      {L"BUTTON", L"", WS_VISIBLE, 65, 65, 50, 14, kButtonId},
+                                      {TRACKBAR_CLASS, L"", WS_VISIBLE, 5, 80, 100, 20, kSliderId}});
 
 // A window that the framework knows nothing of.
 class PlainWindow
 {
 public:
-    explicit PlainWindow(LPCTSTR className = L"STATIC")
+    explicit PlainWindow(const wchar_t* className = L"STATIC")
         : m_handle(::CreateWindowEx(0, className, L"plain", WS_POPUP, 10, 10, 100, 100, nullptr, nullptr,
                                     AfxGetInstanceHandle(), nullptr))
     {
@@ -86,10 +86,10 @@ TEST(WindowMap, AttachedObjectGoesBeforeATemporaryOne)
 TEST(WindowMap, GivesParentsAndItems)
 {
     TestDialog dialog;
-    dialog.Create(dialogTemplate);
-    CWnd* item = dialog.GetDlgItem(editId);
+    dialog.Create(kDialogTemplate);
+    CWnd* item = dialog.GetDlgItem(kEditId);
     ASSERT_NE(nullptr, item);
-    EXPECT_EQ(editId, item->GetDlgCtrlID());
+    EXPECT_EQ(kEditId, item->GetDlgCtrlID());
     EXPECT_EQ(&dialog, item->GetParent());
     EXPECT_EQ(nullptr, dialog.GetDlgItem(199));
 }
@@ -98,23 +98,23 @@ TEST(WindowMap, GivesParentsAndItems)
 TEST(WindowMap, FollowsItemsThatChange)
 {
     TestDialog dialog;
-    dialog.Create(dialogTemplate);
+    dialog.Create(kDialogTemplate);
     HWND hWndOld;
-    dialog.GetDlgItem(editId, &hWndOld);
-    EXPECT_EQ(hWndOld, ::GetDlgItem(dialog.m_hWnd, editId));
-    ::SetWindowLongPtr(hWndOld, GWLP_ID, editId + 50);
-    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId));
-    EXPECT_EQ(hWndOld, dialog.GetDlgItem(editId + 50)->m_hWnd);
+    dialog.GetDlgItem(kEditId, &hWndOld);
+    EXPECT_EQ(hWndOld, ::GetDlgItem(dialog.m_hWnd, kEditId));
+    ::SetWindowLongPtr(hWndOld, GWLP_ID, kEditId + 50);
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(kEditId));
+    EXPECT_EQ(hWndOld, dialog.GetDlgItem(kEditId + 50)->m_hWnd);
 
     ::DestroyWindow(hWndOld);
-    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId + 50));
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(kEditId + 50));
     const RECT rect = {0, 0, 10, 10};
     CWnd edit;
-    ASSERT_TRUE(edit.CreateEx(0, L"EDIT", L"", WS_CHILD, rect, &dialog, editId));
-    EXPECT_EQ(&edit, dialog.GetDlgItem(editId));
+    ASSERT_TRUE(edit.CreateEx(0, L"EDIT", L"", WS_CHILD, rect, &dialog, kEditId));
+    EXPECT_EQ(&edit, dialog.GetDlgItem(kEditId));
 
-    ::SetParent(edit.m_hWnd, dialog.GetDlgItem(buttonId)->m_hWnd);
-    EXPECT_EQ(nullptr, dialog.GetDlgItem(editId));
+    ::SetParent(edit.m_hWnd, dialog.GetDlgItem(kButtonId)->m_hWnd);
+    EXPECT_EQ(nullptr, dialog.GetDlgItem(kEditId));
 }
 
 // Subclassing
@@ -196,9 +196,9 @@ TEST(Subclassing, OfChildrenEndsWithTheParent)
 {
     int deaths = 0;
     TestDialog dialog;
-    dialog.Create(dialogTemplate);
+    dialog.Create(kDialogTemplate);
     Mourner child(deaths);
-    child.SubclassWindow(dialog.Item(editId));
+    child.SubclassWindow(dialog.Item(kEditId));
     dialog.DestroyWindow();
     EXPECT_EQ(1, deaths);
     EXPECT_EQ(nullptr, child.m_hWnd);
@@ -230,7 +230,7 @@ TEST(Subclassing, ObjectMayDeleteItselfAfterTheWindow)
 TEST(Window, IsCreatedWithItsObject)
 {
     TestDialog dialog;
-    dialog.Create(dialogTemplate);
+    dialog.Create(kDialogTemplate);
     CWnd wnd;
     const RECT rect = {10, 20, 110, 70};
     ASSERT_TRUE(wnd.CreateEx(WS_EX_CLIENTEDGE, L"STATIC", L"made", WS_CHILD | WS_VISIBLE, rect, &dialog, 301));
@@ -251,22 +251,22 @@ TEST(Window, OfAnUnknownClassIsNotCreated)
 TEST(Window, RectanglesGoFromScreenToClientAndBack)
 {
     TestDialog dialog;
-    dialog.Create(dialogTemplate);
+    dialog.Create(kDialogTemplate);
     RECT screen;
-    dialog.GetDlgItem(editId)->GetWindowRect(&screen);
+    dialog.GetDlgItem(kEditId)->GetWindowRect(&screen);
     RECT rect = screen;
     dialog.ScreenToClient(&rect);
     EXPECT_LT(rect.left, screen.left);
-    dialog.GetDlgItem(editId)->MoveWindow(rect);
+    dialog.GetDlgItem(kEditId)->MoveWindow(rect);
     dialog.ClientToScreen(&rect);
     EXPECT_TRUE(::EqualRect(&screen, &rect));
-    dialog.GetDlgItem(editId)->GetWindowRect(&rect);
+    dialog.GetDlgItem(kEditId)->GetWindowRect(&rect);
     EXPECT_TRUE(::EqualRect(&screen, &rect)) << "moved to where it stood";
 }
 
 // Message maps
 
-const UINT registeredMessage = ::RegisterWindowMessage(L"QuorvaneFrameworkTest");
+const UINT kRegisteredMessage = ::RegisterWindowMessage(L"QuorvaneFrameworkTest");
 
 class BaseDialog : public TestDialog
 {
@@ -316,16 +316,16 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(BaseDialog, TestDialog)
-    ON_LBN_SELCHANGE(listId, &BaseDialog::OnList)
-    ON_LBN_DBLCLK(listId, &BaseDialog::OnListDouble)
-    ON_CBN_SELCHANGE(comboId, &BaseDialog::OnCombo)
-    ON_EN_KILLFOCUS(editId, &BaseDialog::OnEditLeft)
-    ON_BN_CLICKED(buttonId, &BaseDialog::OnButton)
-    ON_COMMAND(commandId, &BaseDialog::OnMenu)
+    ON_LBN_SELCHANGE(kListId, &BaseDialog::OnList)
+    ON_LBN_DBLCLK(kListId, &BaseDialog::OnListDouble)
+    ON_CBN_SELCHANGE(kComboId, &BaseDialog::OnCombo)
+    ON_EN_KILLFOCUS(kEditId, &BaseDialog::OnEditLeft)
+    ON_BN_CLICKED(kButtonId, &BaseDialog::OnButton)
+    ON_COMMAND(kCommandId, &BaseDialog::OnMenu)
     ON_MESSAGE(WM_APP, &BaseDialog::OnPlain)
     ON_MESSAGE(WM_APP + 1, &BaseDialog::OnThrow)
-    ON_COMMAND(commandId + 1, &BaseDialog::OnShared)
-    ON_REGISTERED_MESSAGE(registeredMessage, &BaseDialog::OnRegistered)
+    ON_COMMAND(kCommandId + 1, &BaseDialog::OnShared)
+    ON_REGISTERED_MESSAGE(kRegisteredMessage, &BaseDialog::OnRegistered)
     ON_WM_SIZE()
     ON_WM_HSCROLL()
     ON_WM_PAINT()
@@ -341,7 +341,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(DerivedDialog, BaseDialog)
-    ON_COMMAND(commandId + 1, &DerivedDialog::OnShared)
+    ON_COMMAND(kCommandId + 1, &DerivedDialog::OnShared)
 END_MESSAGE_MAP()
 
 class MessageMap : public testing::Test
@@ -349,7 +349,7 @@ class MessageMap : public testing::Test
 protected:
     void SetUp() override
     {
-        dialog.Create(dialogTemplate);
+        dialog.Create(kDialogTemplate);
         PumpMessages();
         dialog.calls.clear();
     }
@@ -367,47 +367,47 @@ protected:
 
 TEST_F(MessageMap, MatchesCodeAndControl)
 {
-    EXPECT_EQ(Calls{"list selection"}, Notify(listId, LBN_SELCHANGE));
-    EXPECT_EQ(Calls{"list double click"}, Notify(listId, LBN_DBLCLK));
-    EXPECT_EQ(Calls{"combo selection"}, Notify(comboId, CBN_SELCHANGE));
-    EXPECT_EQ(Calls{"edit left"}, Notify(editId, EN_KILLFOCUS));
-    EXPECT_EQ(Calls{"button"}, Notify(buttonId, BN_CLICKED));
+    EXPECT_EQ(Calls{"list selection"}, Notify(kListId, LBN_SELCHANGE));
+    EXPECT_EQ(Calls{"list double click"}, Notify(kListId, LBN_DBLCLK));
+    EXPECT_EQ(Calls{"combo selection"}, Notify(kComboId, CBN_SELCHANGE));
+    EXPECT_EQ(Calls{"edit left"}, Notify(kEditId, EN_KILLFOCUS));
+    EXPECT_EQ(Calls{"button"}, Notify(kButtonId, BN_CLICKED));
 }
 
 TEST_F(MessageMap, IgnoresTheSameCodeOfAnotherControlAndAnotherCodeOfTheSame)
 {
-    EXPECT_EQ(Calls{}, Notify(editId, LBN_SELCHANGE));
-    EXPECT_EQ(Calls{}, Notify(comboId, CBN_DBLCLK));
-    EXPECT_EQ(Calls{}, Notify(buttonId, BN_DOUBLECLICKED));
-    EXPECT_EQ(Calls{}, Notify(editId, EN_SETFOCUS));
+    EXPECT_EQ(Calls{}, Notify(kEditId, LBN_SELCHANGE));
+    EXPECT_EQ(Calls{}, Notify(kComboId, CBN_DBLCLK));
+    EXPECT_EQ(Calls{}, Notify(kButtonId, BN_DOUBLECLICKED));
+    EXPECT_EQ(Calls{}, Notify(kEditId, EN_SETFOCUS));
 }
 
 TEST_F(MessageMap, CommandsOfMenusAndAcceleratorsHaveTheCodeOfAClick)
 {
-    dialog.SendMessage(WM_COMMAND, commandId);
-    dialog.SendMessage(WM_COMMAND, MAKEWPARAM(commandId, 1));
+    dialog.SendMessage(WM_COMMAND, kCommandId);
+    dialog.SendMessage(WM_COMMAND, MAKEWPARAM(kCommandId, 1));
     EXPECT_EQ((Calls{"menu", "menu"}), dialog.calls);
 }
 
 TEST_F(MessageMap, DerivedClassGoesBeforeItsBase)
 {
-    dialog.SendMessage(WM_COMMAND, commandId + 1);
+    dialog.SendMessage(WM_COMMAND, kCommandId + 1);
     EXPECT_EQ(Calls{"derived"}, dialog.calls);
 }
 
 TEST_F(MessageMap, BaseClassServesItsOwnObjects)
 {
     BaseDialog base;
-    base.Create(dialogTemplate);
+    base.Create(kDialogTemplate);
     base.calls.clear();
-    base.SendMessage(WM_COMMAND, commandId + 1);
+    base.SendMessage(WM_COMMAND, kCommandId + 1);
     EXPECT_EQ(Calls{"base"}, base.calls);
 }
 
 TEST_F(MessageMap, HandlersGetBothParametersAndGiveTheResult)
 {
     EXPECT_EQ(12, dialog.SendMessage(WM_APP, 7, 5));
-    EXPECT_EQ(35, dialog.SendMessage(registeredMessage, 7, 5));
+    EXPECT_EQ(35, dialog.SendMessage(kRegisteredMessage, 7, 5));
 }
 
 TEST_F(MessageMap, UnmappedMessagesGoToTheDefault)
@@ -430,7 +430,7 @@ TEST_F(MessageMap, SizesAreSigned)
 
 TEST_F(MessageMap, ScrollHandlerGetsCodePositionAndSender)
 {
-    const HWND slider = dialog.Item(sliderId);
+    const HWND slider = dialog.Item(kSliderId);
     dialog.SendMessage(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, 40'000), reinterpret_cast<LPARAM>(slider));
     EXPECT_EQ((std::vector<int>{TB_THUMBTRACK, 40'000}), dialog.sizes);
     EXPECT_EQ(slider, dialog.scrollSender);
@@ -458,9 +458,9 @@ TEST_F(MessageMap, NotificationsOfAPageStayThere)
 {
     TestDialog page;
     page.Create(DialogTemplate(WS_CHILD | WS_VISIBLE | DS_CONTROL, 60, 40,
-                               {{L"BUTTON", L"", WS_VISIBLE, 5, 5, 40, 14, buttonId}}),
+                               {{L"BUTTON", L"", WS_VISIBLE, 5, 5, 40, 14, kButtonId}}),
                 &dialog);
-    ::SendMessage(page.Item(buttonId), BM_CLICK, 0, 0);
+    ::SendMessage(page.Item(kButtonId), BM_CLICK, 0, 0);
     PumpMessages();
     EXPECT_EQ(Calls{}, dialog.calls);
 }
@@ -484,11 +484,11 @@ protected:
 TEST_F(MessageMap, ControlIsOfferedItsNotificationBeforeTheParent)
 {
     ReflectingEdit edit;
-    edit.SubclassWindow(dialog.Item(editId));
+    edit.SubclassWindow(dialog.Item(kEditId));
     edit.offered.clear();
-    EXPECT_EQ(Calls{"edit left"}, Notify(editId, EN_KILLFOCUS));
+    EXPECT_EQ(Calls{"edit left"}, Notify(kEditId, EN_KILLFOCUS));
     EXPECT_EQ(std::vector<UINT>{WM_COMMAND}, edit.offered);
     edit.takes = true;
-    EXPECT_EQ(Calls{}, Notify(editId, EN_KILLFOCUS));
+    EXPECT_EQ(Calls{}, Notify(kEditId, EN_KILLFOCUS));
 }
 } // namespace
