@@ -64,7 +64,6 @@ void EditorBench::RunEditor(const EditorKind& kind, const refhost::Machine& mach
                             const std::vector<Stage::Step>& steps)
 {
     refhost::Host host(machine);
-    host.Log().SetLevel(refhost::CallLog::Level::Nothing);
     m_stage.Run([&] { (m_editors.*kind.operation)(host.Data(), host.Control(), m_languageDir.c_str()); }, steps);
 }
 
@@ -75,7 +74,6 @@ Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& 
     RunEditor(kind, machine, {[&](HWND dialog) { state = ReadEditor(kind, dialog); }});
     FloorEditor floor(m_library, kind, state);
     refhost::Host host(machine);
-    host.Log().SetLevel(refhost::CallLog::Level::Nothing);
     Comparison comparison{name};
     ProcessorShare editorShare, floorShare;
     const auto time = [&](ProcessorShare& share, const std::function<void()>& modal) {

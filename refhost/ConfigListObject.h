@@ -1,16 +1,16 @@
 #pragma once
 
 #include "host/IConfigList.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/PrintConfigObject.h"
 
 namespace refhost
 {
 
-class ConfigListObject : public IConfigList, public HostObject
+class ConfigListObject : public IConfigList
 {
 public:
-    ConfigListObject(HostContext& context, const std::vector<PrintConfig>& configs);
+    explicit ConfigListObject(const std::vector<PrintConfig>& configs);
 
     std::vector<PrintConfig> Values() const;
 

@@ -3,156 +3,129 @@
 namespace refhost
 {
 
-EclosionModeObject::EclosionModeObject(HostContext& context, const std::string& place, const EclosionMode& mode)
-    : HostObject(context, "IEclosionMode", place), m_elements(context, place)
-{
-    for (const EclosionElement& element : mode.elements)
-        m_elements.Add(element);
-}
+EclosionModeObject::EclosionModeObject(const EclosionMode& mode) : m_elements(mode.elements) {}
 
 EclosionMode EclosionModeObject::Values() const
 {
-    EclosionMode values;
-    for (const auto& element : m_elements)
-        values.elements.push_back(element->Values());
-    return values;
-}
-
-void EclosionModeObject::MarkRemoved()
-{
-    HostObject::MarkRemoved();
-    for (const auto& element : m_elements)
-        element->MarkRemoved();
+    return EclosionMode{m_elements.Values()};
 }
 
 std::uint32_t EclosionModeObject::GetElementCount()
 {
-    return Get("GetElementCount", m_elements.Count());
+    return m_elements.Count();
 }
 
 IEclosionElement* EclosionModeObject::AddElement()
 {
-    return Change("AddElement") ? &m_elements.Add(EclosionElement()) : nullptr;
+    return &m_elements.Add(EclosionElement());
 }
 
 IEclosionElement* EclosionModeObject::GetElement(std::uint32_t index)
 {
-    return Read("GetElement", index) ? m_elements.At(index) : nullptr;
+    return m_elements.At(index);
 }
 
 void EclosionModeObject::DeleteElement(std::uint32_t index)
 {
-    Change("DeleteElement", index);
     m_elements.Remove(index);
 }
 
-CustomEclosionObject::CustomEclosionObject(HostContext& context, const std::string& place,
-                                           const CustomEclosion& eclosion)
-    : HostObject(context, "ICustomEclosion", place), m_eclosion(eclosion), m_modes(context, place)
+CustomEclosionObject::CustomEclosionObject(const CustomEclosion& eclosion)
+    : m_eclosion(eclosion), m_modes(eclosion.modes)
 {
-    for (const EclosionMode& mode : eclosion.modes)
-        m_modes.Add(mode);
     m_eclosion.modes.clear();
 }
 
 CustomEclosion CustomEclosionObject::Values() const
 {
     CustomEclosion values = m_eclosion;
-    for (const auto& mode : m_modes)
-        values.modes.push_back(mode->Values());
+    values.modes = m_modes.Values();
     return values;
 }
 
 std::int32_t CustomEclosionObject::GetCurrentMode()
 {
-    return Get("GetCurrentMode", m_eclosion.currentMode);
+    return m_eclosion.currentMode;
 }
 
 void CustomEclosionObject::SetCurrentMode(std::int32_t index)
 {
-    Set("SetCurrentMode", m_eclosion.currentMode, index);
+    m_eclosion.currentMode = index;
 }
 
 std::uint8_t CustomEclosionObject::IsLocked()
 {
-    return Get("IsLocked", m_eclosion.locked);
+    return m_eclosion.locked;
 }
 
 void CustomEclosionObject::SetLocked(std::int32_t locked)
 {
-    Set("SetLocked", m_eclosion.locked, locked);
+    m_eclosion.locked = locked != 0;
 }
 
 std::int32_t CustomEclosionObject::GetRange()
 {
-    return Get("GetRange", m_eclosion.range);
+    return m_eclosion.range;
 }
 
 void CustomEclosionObject::SetRange(std::int32_t range)
 {
-    Set("SetRange", m_eclosion.range, range);
+    m_eclosion.range = range;
 }
 
 std::uint32_t CustomEclosionObject::GetModeCount()
 {
-    return Get("GetModeCount", m_modes.Count());
+    return m_modes.Count();
 }
 
 IEclosionMode* CustomEclosionObject::AddMode()
 {
-    return Change("AddMode") ? &m_modes.Add(EclosionMode()) : nullptr;
+    return &m_modes.Add(EclosionMode());
 }
 
 IEclosionMode* CustomEclosionObject::GetMode(std::uint32_t index)
 {
-    return Read("GetMode", index) ? m_modes.At(index) : nullptr;
+    return m_modes.At(index);
 }
 
 void CustomEclosionObject::DeleteMode(std::uint32_t index)
 {
-    Change("DeleteMode", index);
     m_modes.Remove(index);
 }
 
-CustomEclosionSetObject::CustomEclosionSetObject(HostContext& context, const CustomEclosionSet& set)
-    : HostObject(context, "ICustomEclosionSet"), m_currentIndex(set.currentIndex), m_definitions(context, std::string())
+CustomEclosionSetObject::CustomEclosionSetObject(const CustomEclosionSet& set)
+    : m_nCurrentIndex(set.currentIndex), m_definitions(set.definitions)
 {
-    for (const CustomEclosion& definition : set.definitions)
-        m_definitions.Add(definition);
 }
 
 CustomEclosionSet CustomEclosionSetObject::Values() const
 {
-    CustomEclosionSet values;
-    values.currentIndex = m_currentIndex;
-    for (const auto& definition : m_definitions)
-        values.definitions.push_back(definition->Values());
-    return values;
+    return CustomEclosionSet{m_nCurrentIndex, m_definitions.Values()};
 }
 
 std::int32_t CustomEclosionSetObject::GetCurrentIndex()
 {
-    return Get("GetCurrentIndex", m_currentIndex);
+    return m_nCurrentIndex;
 }
 
 void CustomEclosionSetObject::SetCurrentIndex(std::int32_t index)
 {
-    Set("SetCurrentIndex", m_currentIndex, index);
+    m_nCurrentIndex = index;
 }
 
 std::uint32_t CustomEclosionSetObject::GetCount()
 {
-    return Get("GetCount", m_definitions.Count());
+    return m_definitions.Count();
 }
 
 ICustomEclosion* CustomEclosionSetObject::AddEclosion()
 {
-    return Change("AddEclosion") ? &m_definitions.Add(CustomEclosion()) : nullptr;
+    return &m_definitions.Add(CustomEclosion());
 }
 
 ICustomEclosion* CustomEclosionSetObject::GetEclosion(std::uint32_t index)
 {
-    return Read("GetEclosion", index) ? m_definitions.At(index) : nullptr;
+    return m_definitions.At(index);
 }
 
 } // namespace refhost

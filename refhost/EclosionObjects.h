@@ -5,38 +5,34 @@
 #include "host/ICustomEclosionSet.h"
 #include "host/IEclosionElement.h"
 #include "host/IEclosionMode.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/Machine.h"
 
 namespace refhost
 {
 
-class EclosionElementObject : public IEclosionElement, public HostObject
+class EclosionElementObject : public IEclosionElement
 {
 public:
-    EclosionElementObject(HostContext& context, const std::string& place, const EclosionElement& element)
-        : HostObject(context, "IEclosionElement", place), m_element(element)
-    {
-    }
+    explicit EclosionElementObject(const EclosionElement& element) : m_element(element) {}
 
     const EclosionElement& Values() const { return m_element; }
 
-    std::uint8_t GetWidth() override { return static_cast<std::uint8_t>(Get("GetWidth", m_element.width)); }
-    void SetWidth(std::int32_t width) override { Set("SetWidth", m_element.width, width); }
-    std::uint8_t GetHeight() override { return static_cast<std::uint8_t>(Get("GetHeight", m_element.height)); }
-    void SetHeight(std::int32_t height) override { Set("SetHeight", m_element.height, height); }
+    std::uint8_t GetWidth() override { return m_element.width; }
+    void SetWidth(std::int32_t width) override { m_element.width = static_cast<std::uint8_t>(width); }
+    std::uint8_t GetHeight() override { return m_element.height; }
+    void SetHeight(std::int32_t height) override { m_element.height = static_cast<std::uint8_t>(height); }
 
 private:
     EclosionElement m_element;
 };
 
-class EclosionModeObject : public IEclosionMode, public HostObject
+class EclosionModeObject : public IEclosionMode
 {
 public:
-    EclosionModeObject(HostContext& context, const std::string& place, const EclosionMode& mode);
+    explicit EclosionModeObject(const EclosionMode& mode);
 
     EclosionMode Values() const;
-    void MarkRemoved() override;
 
     std::uint32_t GetElementCount() override;
     IEclosionElement* AddElement() override;
@@ -47,10 +43,10 @@ private:
     HostItems<EclosionElementObject> m_elements;
 };
 
-class CustomEclosionObject : public ICustomEclosion, public HostObject
+class CustomEclosionObject : public ICustomEclosion
 {
 public:
-    CustomEclosionObject(HostContext& context, const std::string& place, const CustomEclosion& eclosion);
+    explicit CustomEclosionObject(const CustomEclosion& eclosion);
 
     CustomEclosion Values() const;
 
@@ -70,10 +66,10 @@ private:
     HostItems<EclosionModeObject> m_modes;
 };
 
-class CustomEclosionSetObject : public ICustomEclosionSet, public HostObject
+class CustomEclosionSetObject : public ICustomEclosionSet
 {
 public:
-    CustomEclosionSetObject(HostContext& context, const CustomEclosionSet& set);
+    explicit CustomEclosionSetObject(const CustomEclosionSet& set);
 
     CustomEclosionSet Values() const;
 
@@ -84,7 +80,7 @@ public:
     ICustomEclosion* GetEclosion(std::uint32_t index) override;
 
 private:
-    std::int32_t m_currentIndex;
+    std::int32_t m_nCurrentIndex;
     HostItems<CustomEclosionObject> m_definitions;
 };
 

@@ -6,10 +6,9 @@
 namespace refhost
 {
 
-Host::Host(const Machine& machine, const HostFaults& faults) : m_context{{}, faults}
+Host::Host(const Machine& machine)
+    : m_data(std::make_unique<HostDataObject>(machine)), m_control(std::make_unique<HostControlObject>())
 {
-    m_data = std::make_unique<HostDataObject>(m_context, machine);
-    m_control = std::make_unique<HostControlObject>(m_context);
 }
 
 Host::~Host() = default;
@@ -32,11 +31,6 @@ Machine Host::CurrentMachine() const
 void Host::OnSave(std::function<void(SaveRequest)> handler)
 {
     m_control->OnSave(std::move(handler));
-}
-
-std::uint32_t Host::OutstandingConfigs() const
-{
-    return m_data->OutstandingConfigs();
 }
 
 } // namespace refhost

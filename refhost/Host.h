@@ -6,7 +6,6 @@
 
 #include "host/IHostControl.h"
 #include "host/IHostData.h"
-#include "refhost/HostObject.h"
 #include "refhost/Machine.h"
 
 namespace refhost
@@ -25,7 +24,7 @@ enum class SaveRequest
 class Host
 {
 public:
-    explicit Host(const Machine& machine, const HostFaults& faults = HostFaults());
+    explicit Host(const Machine& machine);
     ~Host();
     Host(const Host&) = delete;
     Host& operator=(const Host&) = delete;
@@ -33,19 +32,13 @@ public:
     IHostData* Data();
     IHostControl* Control();
 
-    CallLog& Log() { return m_context.log; }
-
     /// The values as the editors have left them. To be read on the thread on which the editors run.
     Machine CurrentMachine() const;
 
     /// Called at SaveParameters and SaveCustomEclosionSet, on the editor's thread.
     void OnSave(std::function<void(SaveRequest)> handler);
 
-    /// How many configurations were made by CreateConfig and not yet handed back.
-    std::uint32_t OutstandingConfigs() const;
-
 private:
-    HostContext m_context;
     std::unique_ptr<HostDataObject> m_data;
     std::unique_ptr<HostControlObject> m_control;
 };

@@ -3,17 +3,13 @@
 namespace refhost
 {
 
-HostControlObject::HostControlObject(HostContext& context) : HostObject(context, "IHostControl") {}
-
-void HostControlObject::SaveParameters(std::uint32_t kind)
+void HostControlObject::SaveParameters(std::uint32_t)
 {
-    Change("SaveParameters", kind);
     Ask(SaveRequest::Parameters);
 }
 
 void HostControlObject::SaveCustomEclosionSet()
 {
-    Change("SaveCustomEclosionSet");
     Ask(SaveRequest::CustomEclosionSet);
 }
 

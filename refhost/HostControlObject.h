@@ -4,16 +4,13 @@
 
 #include "host/IHostControl.h"
 #include "refhost/Host.h"
-#include "refhost/HostObject.h"
 
 namespace refhost
 {
 
-class HostControlObject : public IHostControl, public HostObject
+class HostControlObject : public IHostControl
 {
 public:
-    explicit HostControlObject(HostContext& context);
-
     void OnSave(std::function<void(SaveRequest)> handler) { m_handler = std::move(handler); }
 
     void SaveParameters(std::uint32_t kind) override;

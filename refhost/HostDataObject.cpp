@@ -3,21 +3,14 @@
 namespace refhost
 {
 
-HostDataObject::HostDataObject(HostContext& context, const Machine& machine)
-    : HostObject(context, "IHostData"), m_machine(machine), m_configs(context, machine.configurations),
-      m_factorySchemes(context, "factory", machine.factorySchemes), m_userSchemes(context, "user", machine.userSchemes),
-      m_layouts(context, "ILayoutList", machine.layouts),
-      m_headLayouts(context, "IHeadLayoutList", machine.headLayouts),
-      m_xResolutions(context, "IXResolutionList", machine.xResolutions),
-      m_inkChannels(context, machine.inkChannels, machine.layouts),
-      m_inkGroups(context, machine.inkGroups, m_inkChannels),
-      m_channelSetups(context, "IChannelList", machine.channelSetups),
-      m_materials(context, "IMaterialList", machine.materials), m_deviceState(context, machine.activeSetup),
-      m_customEclosions(context, machine.customEclosions), m_paramTables(context, std::string()),
-      m_created(context, "new")
+HostDataObject::HostDataObject(const Machine& machine)
+    : m_machine(machine), m_configs(machine.configurations), m_factorySchemes(machine.factorySchemes),
+      m_userSchemes(machine.userSchemes), m_layouts(machine.layouts), m_headLayouts(machine.headLayouts),
+      m_xResolutions(machine.xResolutions), m_inkChannels(machine.inkChannels, machine.layouts),
+      m_inkGroups(machine.inkGroups, m_inkChannels), m_channelSetups(machine.channelSetups),
+      m_materials(machine.materials), m_deviceState(machine.activeSetup), m_customEclosions(machine.customEclosions),
+      m_paramTables(machine.paramTables)
 {
-    for (const ParamTable& table : machine.paramTables)
-        m_paramTables.Add(table);
 }
 
 Machine HostDataObject::Values() const
@@ -32,88 +25,82 @@ Machine HostDataObject::Values() const
 
 ILayoutList* HostDataObject::GetLayoutList()
 {
-    return Read("GetLayoutList") ? &m_layouts : nullptr;
+    return &m_layouts;
 }
 
 IHeadLayoutList* HostDataObject::GetHeadLayoutList()
 {
-    return Read("GetHeadLayoutList") ? &m_headLayouts : nullptr;
+    return &m_headLayouts;
 }
 
 IChannelList* HostDataObject::GetChannelList()
 {
-    return Read("GetChannelList") ? &m_channelSetups : nullptr;
+    return &m_channelSetups;
 }
 
 IInkChannelTable* HostDataObject::GetInkChannels()
 {
-    return Read("GetInkChannels") ? &m_inkChannels : nullptr;
+    return &m_inkChannels;
 }
 
 IXResolutionList* HostDataObject::GetXResolutionList()
 {
-    return Read("GetXResolutionList") ? &m_xResolutions : nullptr;
+    return &m_xResolutions;
 }
 
 IInkGroupTable* HostDataObject::GetInkGroups()
 {
-    return Read("GetInkGroups") ? &m_inkGroups : nullptr;
+    return &m_inkGroups;
 }
 
 IConfigList* HostDataObject::GetConfigList()
 {
-    return Read("GetConfigList") ? &m_configs : nullptr;
+    return &m_configs;
 }
 
 IFactorySchemeList* HostDataObject::GetFactorySchemeList()
 {
-    return Read("GetFactorySchemeList") ? &m_factorySchemes : nullptr;
+    return &m_factorySchemes;
 }
 
 IUserSchemeList* HostDataObject::GetUserSchemeList()
 {
-    return Read("GetUserSchemeList") ? &m_userSchemes : nullptr;
+    return &m_userSchemes;
 }
 
 IMaterialList* HostDataObject::GetMaterialList()
 {
-    return Read("GetMaterialList") ? &m_materials : nullptr;
+    return &m_materials;
 }
 
 ICustomEclosionSet* HostDataObject::GetCustomEclosionSet()
 {
-    return Read("GetCustomEclosionSet") ? &m_customEclosions : nullptr;
+    return &m_customEclosions;
 }
 
 IDeviceState* HostDataObject::GetDeviceState()
 {
-    return Read("GetDeviceState") ? &m_deviceState : nullptr;
+    return &m_deviceState;
 }
 
 IParamTable* HostDataObject::GetParamTable(std::uint32_t tableId)
 {
-    if (Read("GetParamTable", tableId))
-        for (const auto& table : m_paramTables)
-            if (table->Id() == tableId)
-                return table.get();
+    for (const auto& table : m_paramTables)
+        if (table->Id() == tableId)
+            return table.get();
     return nullptr;
 }
 
 IPrintConfig* HostDataObject::CreateConfig()
 {
-    return Change("CreateConfig") ? &m_created.Add(PrintConfig()) : nullptr;
+    return &m_created.Add(PrintConfig());
 }
 
 void HostDataObject::DestroyConfig(IPrintConfig* config)
 {
     for (std::uint32_t i = 0; i < m_created.Count(); ++i)
         if (m_created.At(i) == config)
-        {
-            Change("DestroyConfig", static_cast<const HostObject*>(m_created.At(i)));
             return m_created.Remove(i);
-        }
-    // The pointer may be dead, so nothing is asked of it.
-    Context().log.RecordViolation("IHostData.DestroyConfig of what CreateConfig did not make");
 }
 
 } // namespace refhost

@@ -10,13 +10,12 @@
 namespace refhost
 {
 
-class HostDataObject : public IHostData, public HostObject
+class HostDataObject : public IHostData
 {
 public:
-    HostDataObject(HostContext& context, const Machine& machine);
+    explicit HostDataObject(const Machine& machine);
 
     Machine Values() const;
-    std::uint32_t OutstandingConfigs() const { return m_created.Count(); }
 
     ILayoutList* GetLayoutList() override;
     IHeadLayoutList* GetHeadLayoutList() override;
@@ -49,7 +48,7 @@ private:
     DeviceStateObject m_deviceState;
     CustomEclosionSetObject m_customEclosions;
     HostItems<ParamTableObject> m_paramTables;
-    HostItems<PrintConfigObject> m_created;
+    HostItems<PrintConfigObject> m_created; // not yet handed back
 };
 
 } // namespace refhost

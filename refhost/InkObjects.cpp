@@ -23,12 +23,10 @@ std::uint8_t ColorIndexOf(const Object* object)
 
 } // namespace
 
-InkChannelTableObject::InkChannelTableObject(HostContext& context, const std::vector<InkChannel>& channels,
+InkChannelTableObject::InkChannelTableObject(const std::vector<InkChannel>& channels,
                                              const std::vector<Layout>& layouts)
-    : HostObject(context, "IInkChannelTable"), m_channels(context, std::string()), m_layouts(layouts)
+    : m_channels(channels), m_layouts(layouts)
 {
-    for (const InkChannel& channel : channels)
-        m_channels.Add(channel);
 }
 
 InkChannelObject* InkChannelTableObject::Find(std::uint16_t id) const
@@ -38,13 +36,11 @@ InkChannelObject* InkChannelTableObject::Find(std::uint16_t id) const
 
 std::uint8_t InkChannelTableObject::GetColorIndex(std::uint16_t channelId)
 {
-    Read("GetColorIndex", channelId);
     return ColorIndexOf(Find(channelId));
 }
 
 void InkChannelTableObject::GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels)
 {
-    Read("GetChannelsOfLayout", layoutId);
     for (const Layout& layout : m_layouts)
         if (layout.id == layoutId)
         {
@@ -55,36 +51,33 @@ void InkChannelTableObject::GetChannelsOfLayout(std::uint8_t layoutId, std::vect
         }
 }
 
-InkGroupObject::InkGroupObject(HostContext& context, const std::string& place, const InkGroup& group,
-                               const InkChannelTableObject& channels)
-    : HostObject(context, "IInkGroup", place), m_group(group), m_channels(channels)
+InkGroupObject::InkGroupObject(const InkGroup& group, const InkChannelTableObject& channels)
+    : m_group(group), m_channels(channels)
 {
 }
 
 std::uint16_t InkGroupObject::GetId()
 {
-    return Get("GetId", m_group.id);
+    return m_group.id;
 }
 
 const char* InkGroupObject::GetName()
 {
-    return GetText("GetName", m_group.name);
+    return m_group.name.c_str();
 }
 
 std::uint32_t InkGroupObject::GetChannelCount()
 {
-    return Get("GetChannelCount", static_cast<std::uint32_t>(m_group.channels.size()));
+    return static_cast<std::uint32_t>(m_group.channels.size());
 }
 
 IInkChannel* InkGroupObject::GetChannel(std::uint32_t index)
 {
-    const bool found = Read("GetChannel", index) && index < m_group.channels.size();
-    return found ? m_channels.Find(m_group.channels[index]) : nullptr;
+    return index < m_group.channels.size() ? m_channels.Find(m_group.channels[index]) : nullptr;
 }
 
-InkGroupTableObject::InkGroupTableObject(HostContext& context, const std::vector<InkGroup>& groups,
-                                         const InkChannelTableObject& channels)
-    : HostObject(context, "IInkGroupTable"), m_groups(context, std::string())
+InkGroupTableObject::InkGroupTableObject(const std::vector<InkGroup>& groups, const InkChannelTableObject& channels)
+
 {
     for (const InkGroup& group : groups)
         m_groups.Add(group, channels);
@@ -92,22 +85,21 @@ InkGroupTableObject::InkGroupTableObject(HostContext& context, const std::vector
 
 std::uint32_t InkGroupTableObject::GetCount()
 {
-    return Get("GetCount", m_groups.Count());
+    return m_groups.Count();
 }
 
 IInkGroup* InkGroupTableObject::GetAt(std::uint32_t index)
 {
-    return Read("GetAt", index) ? m_groups.At(index) : nullptr;
+    return m_groups.At(index);
 }
 
 IInkGroup* InkGroupTableObject::GetGroup(std::uint16_t groupId)
 {
-    return Read("GetGroup", groupId) ? Find(groupId) : nullptr;
+    return Find(groupId);
 }
 
 std::uint8_t InkGroupTableObject::GetColorIndex(std::uint16_t groupId)
 {
-    Read("GetColorIndex", groupId);
     return ColorIndexOf(Find(groupId));
 }
 

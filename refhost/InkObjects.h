@@ -5,34 +5,30 @@
 #include "host/IInkChannelTable.h"
 #include "host/IInkGroup.h"
 #include "host/IInkGroupTable.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/Machine.h"
 
 namespace refhost
 {
 
-class InkChannelObject : public IInkChannel, public HostObject
+class InkChannelObject : public IInkChannel
 {
 public:
-    InkChannelObject(HostContext& context, const std::string& place, const InkChannel& channel)
-        : HostObject(context, "IInkChannel", place), m_channel(channel)
-    {
-    }
+    explicit InkChannelObject(const InkChannel& channel) : m_channel(channel) {}
 
     const InkChannel& Values() const { return m_channel; }
 
-    std::uint16_t GetId() override { return Get("GetId", m_channel.id); }
-    const char* GetName() override { return GetText("GetName", m_channel.name); }
+    std::uint16_t GetId() override { return m_channel.id; }
+    const char* GetName() override { return m_channel.name.c_str(); }
 
 private:
     InkChannel m_channel;
 };
 
-class InkChannelTableObject : public IInkChannelTable, public HostObject
+class InkChannelTableObject : public IInkChannelTable
 {
 public:
-    InkChannelTableObject(HostContext& context, const std::vector<InkChannel>& channels,
-                          const std::vector<Layout>& layouts);
+    InkChannelTableObject(const std::vector<InkChannel>& channels, const std::vector<Layout>& layouts);
 
     /// Null when the machine has no such channel.
     InkChannelObject* Find(std::uint16_t id) const;
@@ -45,11 +41,10 @@ private:
     std::vector<Layout> m_layouts;
 };
 
-class InkGroupObject : public IInkGroup, public HostObject
+class InkGroupObject : public IInkGroup
 {
 public:
-    InkGroupObject(HostContext& context, const std::string& place, const InkGroup& group,
-                   const InkChannelTableObject& channels);
+    InkGroupObject(const InkGroup& group, const InkChannelTableObject& channels);
 
     const InkGroup& Values() const { return m_group; }
 
@@ -63,11 +58,10 @@ private:
     const InkChannelTableObject& m_channels;
 };
 
-class InkGroupTableObject : public IInkGroupTable, public HostObject
+class InkGroupTableObject : public IInkGroupTable
 {
 public:
-    InkGroupTableObject(HostContext& context, const std::vector<InkGroup>& groups,
-                        const InkChannelTableObject& channels);
+    InkGroupTableObject(const std::vector<InkGroup>& groups, const InkChannelTableObject& channels);
 
     std::uint32_t GetCount() override;
     IInkGroup* GetAt(std::uint32_t index) override;

@@ -1,109 +1,99 @@
 #include "refhost/PrintConfigObject.h"
 
+#include "refhost/GivenName.h"
+
 namespace refhost
 {
 
-PrintConfigObject::PrintConfigObject(HostContext& context, const std::string& place, const PrintConfig& config)
-    : HostObject(context, "IPrintConfig", place), m_config(config), m_modes(context, place)
+PrintConfigObject::PrintConfigObject(const PrintConfig& config) : m_config(config), m_modes(config.modes)
 {
-    for (const PrintMode& mode : config.modes)
-        m_modes.Add(mode);
     m_config.modes.clear();
 }
 
 PrintConfig PrintConfigObject::Values() const
 {
     PrintConfig values = m_config;
-    for (const auto& mode : m_modes)
-        values.modes.push_back(mode->Values());
+    values.modes = m_modes.Values();
     return values;
-}
-
-void PrintConfigObject::MarkRemoved()
-{
-    HostObject::MarkRemoved();
-    for (const auto& mode : m_modes)
-        mode->MarkRemoved();
 }
 
 void PrintConfigObject::SetName(const char* name)
 {
-    SetText("SetName", m_config.name, name);
+    m_config.name = GivenName(name);
 }
 
 void PrintConfigObject::SetXResolution(std::int32_t dpi)
 {
-    Set("SetXResolution", m_config.xResolution, dpi);
+    m_config.xResolution = static_cast<std::uint16_t>(dpi);
 }
 
 void PrintConfigObject::SetYResolution(std::int32_t dpi)
 {
-    Set("SetYResolution", m_config.yResolution, dpi);
+    m_config.yResolution = static_cast<std::uint16_t>(dpi);
 }
 
 void PrintConfigObject::SetColorCount(std::int32_t count)
 {
-    Set("SetColorCount", m_config.colorCount, count);
+    m_config.colorCount = static_cast<std::uint8_t>(count);
 }
 
 void PrintConfigObject::SetDotBits(std::int32_t bits)
 {
-    Set("SetDotBits", m_config.dotBits, bits);
+    m_config.dotBits = static_cast<std::uint8_t>(bits);
 }
 
 void PrintConfigObject::SetEnabled(std::int32_t enabled)
 {
-    Set("SetEnabled", m_config.enabled, enabled);
+    m_config.enabled = enabled != 0;
 }
 
 const char* PrintConfigObject::GetName()
 {
-    return GetText("GetName", m_config.name);
+    return m_config.name.c_str();
 }
 
 std::uint16_t PrintConfigObject::GetXResolution()
 {
-    return Get("GetXResolution", m_config.xResolution);
+    return m_config.xResolution;
 }
 
 std::uint16_t PrintConfigObject::GetYResolution()
 {
-    return Get("GetYResolution", m_config.yResolution);
+    return m_config.yResolution;
 }
 
 std::uint8_t PrintConfigObject::GetColorCount()
 {
-    return Get("GetColorCount", m_config.colorCount);
+    return m_config.colorCount;
 }
 
 std::uint8_t PrintConfigObject::GetDotBits()
 {
-    return Get("GetDotBits", m_config.dotBits);
+    return m_config.dotBits;
 }
 
 std::int32_t PrintConfigObject::GetEnabled()
 {
-    return Get("GetEnabled", m_config.enabled);
+    return m_config.enabled;
 }
 
 std::uint32_t PrintConfigObject::GetModeCount()
 {
-    return Get("GetModeCount", m_modes.Count());
+    return m_modes.Count();
 }
 
 IPrintMode* PrintConfigObject::GetMode(std::uint32_t index)
 {
-    return Read("GetMode", index) ? m_modes.At(index) : nullptr;
+    return m_modes.At(index);
 }
 
 IPrintMode* PrintConfigObject::AddMode()
 {
-    return Change("AddMode") ? &m_modes.Add(PrintMode()) : nullptr;
+    return &m_modes.Add(PrintMode());
 }
 
 void PrintConfigObject::RemoveMode(std::uint32_t index)
 {
-    Change("RemoveMode", index);
     m_modes.Remove(index);
 }
 

@@ -1,21 +1,20 @@
 #pragma once
 
 #include "host/IPrintConfig.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/Machine.h"
 #include "refhost/PrintModeObject.h"
 
 namespace refhost
 {
 
-class PrintConfigObject : public IPrintConfig, public HostObject
+class PrintConfigObject : public IPrintConfig
 {
 public:
-    PrintConfigObject(HostContext& context, const std::string& place, const PrintConfig& config);
+    explicit PrintConfigObject(const PrintConfig& config);
 
     /// With the modes as they are now.
     PrintConfig Values() const;
-    void MarkRemoved() override;
 
     void SetName(const char* name) override;
     void SetXResolution(std::int32_t dpi) override;

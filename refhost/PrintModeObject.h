@@ -1,16 +1,15 @@
 #pragma once
 
 #include "host/IPrintMode.h"
-#include "refhost/HostObject.h"
 #include "refhost/Machine.h"
 
 namespace refhost
 {
 
-class PrintModeObject : public IPrintMode, public HostObject
+class PrintModeObject : public IPrintMode
 {
 public:
-    PrintModeObject(HostContext& context, const std::string& place, const PrintMode& mode);
+    explicit PrintModeObject(const PrintMode& mode);
 
     const PrintMode& Values() const { return m_mode; }
 

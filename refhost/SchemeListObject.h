@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/ISchemeList.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/SchemeObject.h"
 
 namespace refhost
@@ -9,33 +9,17 @@ namespace refhost
 
 /// `Object` is FactorySchemeObject or UserSchemeObject.
 template <class Interface, class Object, class Scheme>
-class SchemeListObject : public ISchemeList<Interface>, public HostObject
+class SchemeListObject : public ISchemeList<Interface>
 {
 public:
-    SchemeListObject(HostContext& context, const char* kind, const std::vector<Scheme>& schemes)
-        : HostObject(context, "ISchemeList", kind), m_schemes(context, std::string())
-    {
-        for (const Scheme& scheme : schemes)
-            m_schemes.Add(scheme);
-    }
+    explicit SchemeListObject(const std::vector<Scheme>& schemes) : m_schemes(schemes) {}
 
-    std::vector<Scheme> Values() const
-    {
-        std::vector<Scheme> values;
-        for (const auto& scheme : m_schemes)
-            values.push_back(scheme->Values());
-        return values;
-    }
+    std::vector<Scheme> Values() const { return m_schemes.Values(); }
 
-    std::uint32_t GetCount() override { return Get("GetCount", m_schemes.Count()); }
-    Interface* GetAt(std::uint32_t index) override { return Read("GetAt", index) ? m_schemes.At(index) : nullptr; }
-    Interface* AddScheme() override { return Change("AddScheme") ? &m_schemes.Add(Scheme()) : nullptr; }
-
-    void RemoveAt(std::uint32_t index) override
-    {
-        Change("RemoveAt", index);
-        m_schemes.Remove(index);
-    }
+    std::uint32_t GetCount() override { return m_schemes.Count(); }
+    Interface* GetAt(std::uint32_t index) override { return m_schemes.At(index); }
+    Interface* AddScheme() override { return &m_schemes.Add(Scheme()); }
+    void RemoveAt(std::uint32_t index) override { m_schemes.Remove(index); }
 
 private:
     HostItems<Object> m_schemes;

@@ -3,21 +3,14 @@
 namespace refhost
 {
 
-SchemeParamsObject::SchemeParamsObject(HostContext& context, const std::string& place, FactoryScheme& scheme)
-    : HostObject(context, "ISchemeParams", "factory." + place), m_values(scheme), m_factoryOnly(&scheme)
-{
-}
+SchemeParamsObject::SchemeParamsObject(FactoryScheme& scheme) : m_values(scheme), m_factoryOnly(&scheme) {}
 
-SchemeParamsObject::SchemeParamsObject(HostContext& context, const std::string& place, UserScheme& scheme)
-    : HostObject(context, "ISchemeParams", "user." + place), m_values(scheme), m_userOnly(&scheme)
-{
-}
+SchemeParamsObject::SchemeParamsObject(UserScheme& scheme) : m_values(scheme), m_userOnly(&scheme) {}
 
 void SchemeParamsObject::CopyFrom(ISchemeParams* source)
 {
     // Every block that an editor can hold was made by this host.
     const auto* block = static_cast<const SchemeParamsObject*>(source);
-    Change("CopyFrom", static_cast<const HostObject*>(block));
     if (block == nullptr)
         return;
     m_values = block->m_values;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "host/ISchemeParams.h"
-#include "refhost/HostObject.h"
 #include "refhost/Machine.h"
 
 namespace refhost
@@ -9,11 +8,11 @@ namespace refhost
 
 /// The parameter block of a scheme of either kind. Copying takes over every value that both kinds have, the name and
 /// the configuration index included.
-class SchemeParamsObject : public ISchemeParams, public HostObject
+class SchemeParamsObject : public ISchemeParams
 {
 public:
-    SchemeParamsObject(HostContext& context, const std::string& place, FactoryScheme& scheme);
-    SchemeParamsObject(HostContext& context, const std::string& place, UserScheme& scheme);
+    explicit SchemeParamsObject(FactoryScheme& scheme);
+    explicit SchemeParamsObject(UserScheme& scheme);
 
     void CopyFrom(ISchemeParams* source) override;
 

@@ -16,7 +16,7 @@
 #include "host/IParamTable.h"
 #include "host/IXResolution.h"
 #include "host/IXResolutionList.h"
-#include "refhost/HostObject.h"
+#include "refhost/HostItems.h"
 #include "refhost/Machine.h"
 
 namespace refhost
@@ -24,18 +24,13 @@ namespace refhost
 
 /// A list with GetCount and GetAt. `Record` is what the machine holds of one item.
 template <class ListInterface, class ItemInterface, class Item, class Record>
-class TableObject : public ListInterface, public HostObject
+class TableObject : public ListInterface
 {
 public:
-    TableObject(HostContext& context, const char* interfaceName, const std::vector<Record>& records)
-        : HostObject(context, interfaceName), m_items(context, std::string())
-    {
-        for (const Record& record : records)
-            m_items.Add(record);
-    }
+    explicit TableObject(const std::vector<Record>& records) : m_items(records) {}
 
-    std::uint32_t GetCount() override { return Get("GetCount", m_items.Count()); }
-    ItemInterface* GetAt(std::uint32_t index) override { return Read("GetAt", index) ? m_items.At(index) : nullptr; }
+    std::uint32_t GetCount() override { return m_items.Count(); }
+    ItemInterface* GetAt(std::uint32_t index) override { return m_items.At(index); }
 
 protected:
     const HostItems<Item>& Items() const { return m_items; }
@@ -44,16 +39,13 @@ private:
     HostItems<Item> m_items;
 };
 
-class LayoutObject : public ILayout, public HostObject
+class LayoutObject : public ILayout
 {
 public:
-    LayoutObject(HostContext& context, const std::string& place, const Layout& layout)
-        : HostObject(context, "ILayout", place), m_layout(layout)
-    {
-    }
+    explicit LayoutObject(const Layout& layout) : m_layout(layout) {}
 
-    const char* GetName() override { return GetText("GetName", m_layout.name); }
-    std::uint32_t GetId() override { return Get("GetId", m_layout.id); }
+    const char* GetName() override { return m_layout.name.c_str(); }
+    std::uint32_t GetId() override { return m_layout.id; }
 
 private:
     Layout m_layout;
@@ -63,44 +55,25 @@ using LayoutListObject = TableObject<ILayoutList, ILayout, LayoutObject, Layout>
 
 /// An item of which editors read nothing but the name.
 template <class Interface>
-class NamedObject : public Interface, public HostObject
+class NamedObject : public Interface
 {
 public:
-    NamedObject(HostContext& context, const char* interfaceName, const std::string& place, const std::string& name)
-        : HostObject(context, interfaceName, place), m_itemName(name)
-    {
-    }
+    explicit NamedObject(const std::string& name) : m_strName(name) {}
 
-    const char* GetName() override { return GetText("GetName", m_itemName); }
+    const char* GetName() override { return m_strName.c_str(); }
 
 private:
-    std::string m_itemName;
+    std::string m_strName;
 };
 
-class DataModeObject : public NamedObject<IDataMode>
-{
-public:
-    DataModeObject(HostContext& context, const std::string& place, const std::string& name)
-        : NamedObject(context, "IDataMode", place, name)
-    {
-    }
-};
-
-class XResolutionObject : public NamedObject<IXResolution>
-{
-public:
-    XResolutionObject(HostContext& context, const std::string& place, const std::string& name)
-        : NamedObject(context, "IXResolution", place, name)
-    {
-    }
-};
-
+using DataModeObject = NamedObject<IDataMode>;
+using XResolutionObject = NamedObject<IXResolution>;
 using XResolutionListObject = TableObject<IXResolutionList, IXResolution, XResolutionObject, std::string>;
 
-class HeadLayoutObject : public IHeadLayout, public HostObject
+class HeadLayoutObject : public IHeadLayout
 {
 public:
-    HeadLayoutObject(HostContext& context, const std::string& place, const HeadLayout& head);
+    explicit HeadLayoutObject(const HeadLayout& head);
 
     std::uint16_t Id() const { return m_head.id; }
 
@@ -127,10 +100,10 @@ private:
     std::int32_t Find(std::uint16_t id) const;
 };
 
-class ChannelSetupObject : public IChannelSetup, public HostObject
+class ChannelSetupObject : public IChannelSetup
 {
 public:
-    ChannelSetupObject(HostContext& context, const std::string& place, const ChannelSetup& setup);
+    explicit ChannelSetupObject(const ChannelSetup& setup);
 
     const char* GetName() override;
     std::int32_t FindSetup(std::uint32_t id) override;
@@ -141,16 +114,13 @@ private:
 
 using ChannelListObject = TableObject<IChannelList, IChannelSetup, ChannelSetupObject, ChannelSetup>;
 
-class MaterialObject : public IMaterial, public HostObject
+class MaterialObject : public IMaterial
 {
 public:
-    MaterialObject(HostContext& context, const std::string& place, const Material& material)
-        : HostObject(context, "IMaterial", place), m_material(material)
-    {
-    }
+    explicit MaterialObject(const Material& material) : m_material(material) {}
 
-    std::uint16_t GetId() override { return Get("GetId", m_material.id); }
-    const char* GetName() override { return GetText("GetName", m_material.name); }
+    std::uint16_t GetId() override { return m_material.id; }
+    const char* GetName() override { return m_material.name.c_str(); }
 
 private:
     Material m_material;
@@ -158,10 +128,10 @@ private:
 
 using MaterialListObject = TableObject<IMaterialList, IMaterial, MaterialObject, Material>;
 
-class ActiveSetupObject : public IActiveSetup, public HostObject
+class ActiveSetupObject : public IActiveSetup
 {
 public:
-    ActiveSetupObject(HostContext& context, const ActiveSetup& setup);
+    explicit ActiveSetupObject(const ActiveSetup& setup);
 
     std::uint32_t GetId() override;
     std::uint32_t GetGroupCount() override;
@@ -171,24 +141,21 @@ private:
     ActiveSetup m_setup;
 };
 
-class DeviceStateObject : public IDeviceState, public HostObject
+class DeviceStateObject : public IDeviceState
 {
 public:
-    DeviceStateObject(HostContext& context, const ActiveSetup& setup)
-        : HostObject(context, "IDeviceState"), m_setup(context, setup)
-    {
-    }
+    explicit DeviceStateObject(const ActiveSetup& setup) : m_setup(setup) {}
 
-    IActiveSetup* GetActiveSetup() override { return Read("GetActiveSetup") ? &m_setup : nullptr; }
+    IActiveSetup* GetActiveSetup() override { return &m_setup; }
 
 private:
     ActiveSetupObject m_setup;
 };
 
-class ParamTableObject : public IParamTable, public HostObject
+class ParamTableObject : public IParamTable
 {
 public:
-    ParamTableObject(HostContext& context, const std::string& place, const ParamTable& table);
+    explicit ParamTableObject(const ParamTable& table);
 
     std::uint32_t Id() const { return m_table.id; }
 

@@ -15,7 +15,6 @@ MachineDocument::MachineDocument(const std::wstring& path)
 void MachineDocument::Edit(const std::function<void(IHostData*, IHostControl*)>& editor)
 {
     m_host = std::make_unique<Host>(m_accepted);
-    m_host->Log().SetLevel(CallLog::Level::Nothing);
     m_host->OnSave([this](SaveRequest request) { Accept(request); });
     editor(m_host->Data(), m_host->Control());
 }

@@ -30,7 +30,7 @@ HostileObject::HostileObject(void* const* operations, HostileHost& owner, void* 
 
 HostileObject::~HostileObject() = default;
 
-HostileHost::HostileHost(refhost::Host& sound, const Temper& temper) : m_sound(sound), m_temper(temper) {}
+HostileHost::HostileHost(LoggedHost& sound, const Temper& temper) : m_sound(sound), m_temper(temper) {}
 
 HostileHost::~HostileHost() = default;
 

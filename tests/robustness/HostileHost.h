@@ -1,6 +1,6 @@
 #pragma once
 
-#include "refhost/Host.h"
+#include "tests/loggedhost/LoggedHost.h"
 #include "tests/robustness/HostileObject.h"
 #include "tests/robustness/Temper.h"
 
@@ -15,7 +15,7 @@
 class HostileHost
 {
 public:
-    HostileHost(refhost::Host& sound, const Temper& temper);
+    HostileHost(LoggedHost& sound, const Temper& temper);
     ~HostileHost();
 
     IHostData* Data() { return Wrap(m_sound.Data()); }
@@ -85,7 +85,7 @@ private:
     void ClickSomewhere(HWND dialog);
     [[noreturn]] void Throw();
 
-    refhost::Host& m_sound;
+    LoggedHost& m_sound;
     Temper m_temper;
     std::map<std::pair<void*, void* const*>, std::unique_ptr<HostileObject>> m_objects;
     std::map<void* const*, Objects> m_ofInterface;

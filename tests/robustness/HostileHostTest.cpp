@@ -25,9 +25,9 @@ constexpr unsigned kRunsBetweenChecks = 20;
 // So many have all kinds of faults among them.
 constexpr unsigned kTellingRuns = 70;
 
-refhost::HostFaults SoundFaults()
+HostFaults SoundFaults()
 {
-    refhost::HostFaults faults;
+    HostFaults faults;
     faults.keepRemoved = true;
     return faults;
 }
@@ -62,8 +62,8 @@ private:
 
 void HostileRun::MeetHostileHost(unsigned seed)
 {
-    refhost::Host sound(WholeMachine(), SoundFaults());
-    sound.Log().SetLevel(refhost::CallLog::Level::Nothing);
+    LoggedHost sound(WholeMachine(), SoundFaults());
+    sound.Log().SetLevel(CallLog::Level::Nothing);
     HostileHost host(sound, Temper(seed));
     SCOPED_TRACE(CommandToRepeat(seed, "*HostileRun*/" + std::to_string(seed)) + "; the host's faults " +
                  host.Describe());
@@ -93,7 +93,7 @@ void HostileRun::TearDownTestSuite()
 // Opened, walked through and saved as if nothing had happened before.
 void HostileRun::ExpectSoundRun(std::size_t editor)
 {
-    refhost::Host host(WholeMachine(), SoundFaults());
+    LoggedHost host(WholeMachine(), SoundFaults());
     const auto script = [editor](Operator& op) {
         const Window dialog = op.ExpectDialogWith("an editor", [](const Window& any) { return any.Has(IDC_LIST_CFG); });
         const auto configs = dialog.Control<ListBox>(IDC_LIST_CFG);

@@ -44,11 +44,11 @@ protected:
     }
 
     refhost::Machine m_machine = WholeMachine();
-    refhost::Host m_sound{m_machine, [] {
-                              refhost::HostFaults faults;
-                              faults.keepRemoved = true;
-                              return faults;
-                          }()};
+    LoggedHost m_sound{m_machine, [] {
+                           HostFaults faults;
+                           faults.keepRemoved = true;
+                           return faults;
+                       }()};
     HostileHost m_host{m_sound, Temper()};
 
 private:

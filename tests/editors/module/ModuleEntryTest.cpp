@@ -14,7 +14,7 @@ protected:
 
 TEST_F(ModuleEntry, NullHostPointerEndsEachEditorAtOnce)
 {
-    refhost::Host host(m_machine);
+    LoggedHost host(m_machine);
     const Library::Interface editors = Library::Loaded().NewInterface();
     const wchar_t* dir = m_languageDir.c_str();
     EXPECT_EQ(WithoutDialog([&] { return editors->EditPrintModes(nullptr, host.Control(), dir); }), 0);

@@ -1,7 +1,5 @@
-#include "refhost/HostFaults.h"
+#include "tests/loggedhost/HostFaults.h"
 
-namespace refhost
-{
 namespace
 {
 
@@ -23,5 +21,3 @@ bool HostFaults::Fails(const std::string& call) const
             return true;
     return false;
 }
-
-} // namespace refhost

@@ -1,7 +1,4 @@
-#include "refhost/CallLog.h"
-
-namespace refhost
-{
+#include "tests/loggedhost/CallLog.h"
 
 using Lock = std::lock_guard<std::mutex>;
 
@@ -55,5 +52,3 @@ void CallLog::Clear()
     m_calls.clear();
     m_violations.clear();
 }
-
-} // namespace refhost

@@ -5,15 +5,12 @@
 #include <string>
 #include <vector>
 
-namespace refhost
-{
-
-/// A call reads as `IPrintMode[0.2].SetPassCount(6)`. In brackets stands which object it is: the places of its
-/// parents and its own, counted in the order in which the objects came to be, so that no two objects of one list
-/// share a number even after removals. Text arguments stand in quotes with bytes outside printable ASCII as \xNN, a
-/// null pointer is `null`, an object is its place.
-///
-/// The log may be read on another thread while an editor runs.
+// A call reads as `IPrintMode[0.2].SetPassCount(6)`. In brackets stands which object it is: the places of its
+// parents and its own, counted in the order in which the objects came to be, so that no two objects of one list
+// share a number even after removals. Text arguments stand in quotes with bytes outside printable ASCII as \xNN, a
+// null pointer is `null`, an object is its place.
+//
+// The log may be read on another thread while an editor runs.
 class CallLog
 {
 public:
@@ -35,7 +32,7 @@ public:
 
     void Record(Kind kind, const std::string& call);
 
-    /// For a call that no host must ever receive, e.g. on an object that was removed. Recorded at every level.
+    // For a call that no host must ever receive, e.g. on an object that was removed. Recorded at every level.
     void RecordViolation(const std::string& what);
 
     std::vector<std::string> Changes() const;
@@ -55,5 +52,3 @@ private:
     std::vector<Call> m_calls;
     std::vector<std::string> m_violations;
 };
-
-} // namespace refhost
