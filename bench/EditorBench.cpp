@@ -63,7 +63,7 @@ std::vector<Stage::Step> TimedChanges(const std::function<void(HWND, std::size_t
 void EditorBench::RunEditor(const EditorKind& kind, const refhost::Machine& machine,
                             const std::vector<Stage::Step>& steps)
 {
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     m_stage.Run([&] { (m_editors.*kind.operation)(host.Data(), host.Control(), m_languageDir.c_str()); }, steps);
 }
 
@@ -73,7 +73,7 @@ Comparison EditorBench::OpenAndClose(const std::string& name, const EditorKind& 
     EditorState state;
     RunEditor(kind, machine, {[&](HWND dialog) { state = ReadEditor(kind, dialog); }});
     FloorEditor floor(m_library, kind, state);
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     Comparison comparison{name};
     ProcessorShare editorShare, floorShare;
     const auto time = [&](ProcessorShare& share, const std::function<void()>& modal) {

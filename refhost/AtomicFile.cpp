@@ -10,7 +10,7 @@ namespace refhost
 namespace
 {
 
-constexpr LONGLONG kLargestFile = 64 * 1024 * 1024;
+constexpr LONGLONG LARGEST_FILE = 64 * 1024 * 1024;
 
 std::string SystemText(DWORD code)
 {
@@ -25,37 +25,37 @@ std::string SystemText(DWORD code)
 
 [[noreturn]] void Fail(const std::string& what, const std::wstring& path, DWORD code)
 {
-    throw MachineFileError(what + " " + Utf8FromWide(path) + ": " + SystemText(code));
+    throw CMachineFileError(what + " " + Utf8FromWide(path) + ": " + SystemText(code));
 }
 
-class File
+class CFile
 {
 public:
-    File(const std::wstring& path, DWORD access, DWORD share, DWORD disposition)
-        : m_handle(CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr))
+    CFile(const std::wstring& path, DWORD access, DWORD share, DWORD disposition)
+        : m_hFile(CreateFileW(path.c_str(), access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr))
     {
     }
-    ~File() { Close(); }
-    File(const File&) = delete;
-    File& operator=(const File&) = delete;
+    ~CFile() { Close(); }
+    CFile(const CFile&) = delete;
+    CFile& operator=(const CFile&) = delete;
 
-    bool IsOpen() const { return m_handle != INVALID_HANDLE_VALUE; }
-    HANDLE Handle() const { return m_handle; }
+    bool IsOpen() const { return m_hFile != INVALID_HANDLE_VALUE; }
+    HANDLE Handle() const { return m_hFile; }
 
     bool Close()
     {
-        const HANDLE handle = m_handle;
-        m_handle = INVALID_HANDLE_VALUE;
+        const HANDLE handle = m_hFile;
+        m_hFile = INVALID_HANDLE_VALUE;
         return handle == INVALID_HANDLE_VALUE || CloseHandle(handle);
     }
 
 private:
-    HANDLE m_handle;
+    HANDLE m_hFile;
 };
 
 bool WriteAndStore(const std::wstring& path, const std::string& text)
 {
-    File file(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
+    CFile file(path, GENERIC_WRITE, 0, CREATE_ALWAYS);
     DWORD written = 0;
     return file.IsOpen() && WriteFile(file.Handle(), text.data(), static_cast<DWORD>(text.size()), &written, nullptr) &&
            written == text.size() && FlushFileBuffers(file.Handle()) && file.Close();
@@ -71,12 +71,12 @@ bool IsReadOnly(const std::wstring& path)
 
 std::string ReadWholeFile(const std::wstring& path)
 {
-    File file(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
+    CFile file(path, GENERIC_READ, FILE_SHARE_READ, OPEN_EXISTING);
     LARGE_INTEGER size = {};
     if (!file.IsOpen() || !GetFileSizeEx(file.Handle(), &size))
         Fail("cannot open", path, GetLastError());
-    if (size.QuadPart > kLargestFile)
-        throw MachineFileError(Utf8FromWide(path) + ": is too large to be a machine file");
+    if (size.QuadPart > LARGEST_FILE)
+        throw CMachineFileError(Utf8FromWide(path) + ": is too large to be a machine file");
     std::string text(static_cast<std::size_t>(size.QuadPart), '\0');
     DWORD read = 0;
     if (!ReadFile(file.Handle(), text.data(), static_cast<DWORD>(text.size()), &read, nullptr))

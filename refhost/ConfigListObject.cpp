@@ -3,34 +3,34 @@
 namespace refhost
 {
 
-ConfigListObject::ConfigListObject(const std::vector<PrintConfig>& configs) : m_configs(configs) {}
+CConfigListObject::CConfigListObject(const std::vector<PrintConfig>& configs) : m_configs(configs) {}
 
-std::vector<PrintConfig> ConfigListObject::Values() const
+std::vector<PrintConfig> CConfigListObject::Values() const
 {
     return m_configs.Values();
 }
 
-std::uint32_t ConfigListObject::GetCount()
+std::uint32_t CConfigListObject::GetCount()
 {
     return m_configs.Count();
 }
 
-IPrintConfig* ConfigListObject::GetAt(std::uint32_t index)
+IPrintConfig* CConfigListObject::GetAt(std::uint32_t index)
 {
     return m_configs.At(index);
 }
 
-std::uint8_t ConfigListObject::AddConfig(IPrintConfig* source)
+std::uint8_t CConfigListObject::AddConfig(IPrintConfig* source)
 {
     // Every configuration that an editor can hold was made by this host.
-    const auto* config = static_cast<const PrintConfigObject*>(source);
+    const auto* config = static_cast<const CPrintConfigObject*>(source);
     if (config == nullptr)
         return 0;
     m_configs.Add(config->Values());
     return 1;
 }
 
-void ConfigListObject::RemoveAt(std::uint32_t index)
+void CConfigListObject::RemoveAt(std::uint32_t index)
 {
     m_configs.Remove(index);
 }

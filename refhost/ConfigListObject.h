@@ -7,10 +7,10 @@
 namespace refhost
 {
 
-class ConfigListObject : public IConfigList
+class CConfigListObject : public IConfigList
 {
 public:
-    explicit ConfigListObject(const std::vector<PrintConfig>& configs);
+    explicit CConfigListObject(const std::vector<PrintConfig>& configs);
 
     std::vector<PrintConfig> Values() const;
 
@@ -20,7 +20,7 @@ public:
     void RemoveAt(std::uint32_t index) override;
 
 private:
-    HostItems<PrintConfigObject> m_configs;
+    CHostItems<CPrintConfigObject> m_configs;
 };
 
 } // namespace refhost

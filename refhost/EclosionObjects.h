@@ -11,10 +11,10 @@
 namespace refhost
 {
 
-class EclosionElementObject : public IEclosionElement
+class CEclosionElementObject : public IEclosionElement
 {
 public:
-    explicit EclosionElementObject(const EclosionElement& element) : m_element(element) {}
+    explicit CEclosionElementObject(const EclosionElement& element) : m_element(element) {}
 
     const EclosionElement& Values() const { return m_element; }
 
@@ -27,10 +27,10 @@ private:
     EclosionElement m_element;
 };
 
-class EclosionModeObject : public IEclosionMode
+class CEclosionModeObject : public IEclosionMode
 {
 public:
-    explicit EclosionModeObject(const EclosionMode& mode);
+    explicit CEclosionModeObject(const EclosionMode& mode);
 
     EclosionMode Values() const;
 
@@ -40,13 +40,13 @@ public:
     void DeleteElement(std::uint32_t index) override;
 
 private:
-    HostItems<EclosionElementObject> m_elements;
+    CHostItems<CEclosionElementObject> m_elements;
 };
 
-class CustomEclosionObject : public ICustomEclosion
+class CCustomEclosionObject : public ICustomEclosion
 {
 public:
-    explicit CustomEclosionObject(const CustomEclosion& eclosion);
+    explicit CCustomEclosionObject(const CustomEclosion& eclosion);
 
     CustomEclosion Values() const;
 
@@ -63,13 +63,13 @@ public:
 
 private:
     CustomEclosion m_eclosion; // its modes lie in m_modes
-    HostItems<EclosionModeObject> m_modes;
+    CHostItems<CEclosionModeObject> m_modes;
 };
 
-class CustomEclosionSetObject : public ICustomEclosionSet
+class CCustomEclosionSetObject : public ICustomEclosionSet
 {
 public:
-    explicit CustomEclosionSetObject(const CustomEclosionSet& set);
+    explicit CCustomEclosionSetObject(const CustomEclosionSet& set);
 
     CustomEclosionSet Values() const;
 
@@ -81,7 +81,7 @@ public:
 
 private:
     std::int32_t m_nCurrentIndex;
-    HostItems<CustomEclosionObject> m_definitions;
+    CHostItems<CCustomEclosionObject> m_definitions;
 };
 
 } // namespace refhost

@@ -8,7 +8,7 @@
 namespace refhost
 {
 
-/// At most `longest` bytes of the text, and dots where there were more: proper UTF-8 without control characters.
+// At most `longest` bytes of the text, and dots where there were more: proper UTF-8 without control characters.
 std::string Excerpt(std::string_view text, std::size_t longest);
 
 } // namespace refhost

@@ -6,31 +6,31 @@
 namespace refhost
 {
 
-Host::Host(const Machine& machine)
-    : m_data(std::make_unique<HostDataObject>(machine)), m_control(std::make_unique<HostControlObject>())
+CHost::CHost(const Machine& machine)
+    : m_pData(std::make_unique<CHostDataObject>(machine)), m_pControl(std::make_unique<CHostControlObject>())
 {
 }
 
-Host::~Host() = default;
+CHost::~CHost() = default;
 
-IHostData* Host::Data()
+IHostData* CHost::Data()
 {
-    return m_data.get();
+    return m_pData.get();
 }
 
-IHostControl* Host::Control()
+IHostControl* CHost::Control()
 {
-    return m_control.get();
+    return m_pControl.get();
 }
 
-Machine Host::CurrentMachine() const
+Machine CHost::CurrentMachine() const
 {
-    return m_data->Values();
+    return m_pData->Values();
 }
 
-void Host::OnSave(std::function<void(SaveRequest)> handler)
+void CHost::OnSave(std::function<void(SaveRequest)> handler)
 {
-    m_control->OnSave(std::move(handler));
+    m_pControl->OnSave(std::move(handler));
 }
 
 } // namespace refhost

@@ -11,36 +11,36 @@
 namespace refhost
 {
 
-class HostDataObject;
-class HostControlObject;
+class CHostDataObject;
+class CHostControlObject;
 
-/// What an editor asks the host to store.
+// What an editor asks the host to store.
 enum class SaveRequest
 {
     Parameters,
     CustomEclosionSet
 };
 
-class Host
+class CHost
 {
 public:
-    explicit Host(const Machine& machine);
-    ~Host();
-    Host(const Host&) = delete;
-    Host& operator=(const Host&) = delete;
+    explicit CHost(const Machine& machine);
+    ~CHost();
+    CHost(const CHost&) = delete;
+    CHost& operator=(const CHost&) = delete;
 
     IHostData* Data();
     IHostControl* Control();
 
-    /// The values as the editors have left them. To be read on the thread on which the editors run.
+    // The values as the editors have left them. To be read on the thread on which the editors run.
     Machine CurrentMachine() const;
 
-    /// Called at SaveParameters and SaveCustomEclosionSet, on the editor's thread.
+    // Called at SaveParameters and SaveCustomEclosionSet, on the editor's thread.
     void OnSave(std::function<void(SaveRequest)> handler);
 
 private:
-    std::unique_ptr<HostDataObject> m_data;
-    std::unique_ptr<HostControlObject> m_control;
+    std::unique_ptr<CHostDataObject> m_pData;
+    std::unique_ptr<CHostControlObject> m_pControl;
 };
 
 } // namespace refhost

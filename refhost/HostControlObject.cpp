@@ -3,17 +3,17 @@
 namespace refhost
 {
 
-void HostControlObject::SaveParameters(std::uint32_t)
+void CHostControlObject::SaveParameters(std::uint32_t)
 {
     Ask(SaveRequest::Parameters);
 }
 
-void HostControlObject::SaveCustomEclosionSet()
+void CHostControlObject::SaveCustomEclosionSet()
 {
     Ask(SaveRequest::CustomEclosionSet);
 }
 
-void HostControlObject::Ask(SaveRequest request) const
+void CHostControlObject::Ask(SaveRequest request) const
 {
     if (m_handler)
         m_handler(request);

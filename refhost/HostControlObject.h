@@ -8,7 +8,7 @@
 namespace refhost
 {
 
-class HostControlObject : public IHostControl
+class CHostControlObject : public IHostControl
 {
 public:
     void OnSave(std::function<void(SaveRequest)> handler) { m_handler = std::move(handler); }

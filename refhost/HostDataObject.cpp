@@ -3,7 +3,7 @@
 namespace refhost
 {
 
-HostDataObject::HostDataObject(const Machine& machine)
+CHostDataObject::CHostDataObject(const Machine& machine)
     : m_machine(machine), m_configs(machine.configurations), m_factorySchemes(machine.factorySchemes),
       m_userSchemes(machine.userSchemes), m_layouts(machine.layouts), m_headLayouts(machine.headLayouts),
       m_xResolutions(machine.xResolutions), m_inkChannels(machine.inkChannels, machine.layouts),
@@ -13,7 +13,7 @@ HostDataObject::HostDataObject(const Machine& machine)
 {
 }
 
-Machine HostDataObject::Values() const
+Machine CHostDataObject::Values() const
 {
     Machine values = m_machine;
     values.configurations = m_configs.Values();
@@ -23,67 +23,67 @@ Machine HostDataObject::Values() const
     return values;
 }
 
-ILayoutList* HostDataObject::GetLayoutList()
+ILayoutList* CHostDataObject::GetLayoutList()
 {
     return &m_layouts;
 }
 
-IHeadLayoutList* HostDataObject::GetHeadLayoutList()
+IHeadLayoutList* CHostDataObject::GetHeadLayoutList()
 {
     return &m_headLayouts;
 }
 
-IChannelList* HostDataObject::GetChannelList()
+IChannelList* CHostDataObject::GetChannelList()
 {
     return &m_channelSetups;
 }
 
-IInkChannelTable* HostDataObject::GetInkChannels()
+IInkChannelTable* CHostDataObject::GetInkChannels()
 {
     return &m_inkChannels;
 }
 
-IXResolutionList* HostDataObject::GetXResolutionList()
+IXResolutionList* CHostDataObject::GetXResolutionList()
 {
     return &m_xResolutions;
 }
 
-IInkGroupTable* HostDataObject::GetInkGroups()
+IInkGroupTable* CHostDataObject::GetInkGroups()
 {
     return &m_inkGroups;
 }
 
-IConfigList* HostDataObject::GetConfigList()
+IConfigList* CHostDataObject::GetConfigList()
 {
     return &m_configs;
 }
 
-IFactorySchemeList* HostDataObject::GetFactorySchemeList()
+IFactorySchemeList* CHostDataObject::GetFactorySchemeList()
 {
     return &m_factorySchemes;
 }
 
-IUserSchemeList* HostDataObject::GetUserSchemeList()
+IUserSchemeList* CHostDataObject::GetUserSchemeList()
 {
     return &m_userSchemes;
 }
 
-IMaterialList* HostDataObject::GetMaterialList()
+IMaterialList* CHostDataObject::GetMaterialList()
 {
     return &m_materials;
 }
 
-ICustomEclosionSet* HostDataObject::GetCustomEclosionSet()
+ICustomEclosionSet* CHostDataObject::GetCustomEclosionSet()
 {
     return &m_customEclosions;
 }
 
-IDeviceState* HostDataObject::GetDeviceState()
+IDeviceState* CHostDataObject::GetDeviceState()
 {
     return &m_deviceState;
 }
 
-IParamTable* HostDataObject::GetParamTable(std::uint32_t tableId)
+IParamTable* CHostDataObject::GetParamTable(std::uint32_t tableId)
 {
     for (const auto& table : m_paramTables)
         if (table->Id() == tableId)
@@ -91,12 +91,12 @@ IParamTable* HostDataObject::GetParamTable(std::uint32_t tableId)
     return nullptr;
 }
 
-IPrintConfig* HostDataObject::CreateConfig()
+IPrintConfig* CHostDataObject::CreateConfig()
 {
     return &m_created.Add(PrintConfig());
 }
 
-void HostDataObject::DestroyConfig(IPrintConfig* config)
+void CHostDataObject::DestroyConfig(IPrintConfig* config)
 {
     for (std::uint32_t i = 0; i < m_created.Count(); ++i)
         if (m_created.At(i) == config)

@@ -10,10 +10,10 @@
 namespace refhost
 {
 
-class HostDataObject : public IHostData
+class CHostDataObject : public IHostData
 {
 public:
-    explicit HostDataObject(const Machine& machine);
+    explicit CHostDataObject(const Machine& machine);
 
     Machine Values() const;
 
@@ -35,20 +35,20 @@ public:
 
 private:
     Machine m_machine; // what editors cannot change
-    ConfigListObject m_configs;
-    FactorySchemeListObject m_factorySchemes;
-    UserSchemeListObject m_userSchemes;
-    LayoutListObject m_layouts;
-    HeadLayoutListObject m_headLayouts;
-    XResolutionListObject m_xResolutions;
-    InkChannelTableObject m_inkChannels;
-    InkGroupTableObject m_inkGroups;
-    ChannelListObject m_channelSetups;
-    MaterialListObject m_materials;
-    DeviceStateObject m_deviceState;
-    CustomEclosionSetObject m_customEclosions;
-    HostItems<ParamTableObject> m_paramTables;
-    HostItems<PrintConfigObject> m_created; // not yet handed back
+    CConfigListObject m_configs;
+    CFactorySchemeListObject m_factorySchemes;
+    CUserSchemeListObject m_userSchemes;
+    CLayoutListObject m_layouts;
+    CHeadLayoutListObject m_headLayouts;
+    CXResolutionListObject m_xResolutions;
+    CInkChannelTableObject m_inkChannels;
+    CInkGroupTableObject m_inkGroups;
+    CChannelListObject m_channelSetups;
+    CMaterialListObject m_materials;
+    CDeviceStateObject m_deviceState;
+    CCustomEclosionSetObject m_customEclosions;
+    CHostItems<CParamTableObject> m_paramTables;
+    CHostItems<CPrintConfigObject> m_created; // not yet handed back
 };
 
 } // namespace refhost

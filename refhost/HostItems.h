@@ -11,13 +11,13 @@ namespace refhost
 
 // The items of a list. Each keeps its address until it is removed.
 template <class Item>
-class HostItems
+class CHostItems
 {
 public:
-    HostItems() = default;
+    CHostItems() = default;
 
     template <class Record>
-    explicit HostItems(const std::vector<Record>& records)
+    explicit CHostItems(const std::vector<Record>& records)
     {
         for (const Record& record : records)
             Add(record);

@@ -6,7 +6,7 @@ namespace
 {
 
 template <class Object>
-Object* FindById(const HostItems<Object>& objects, std::uint16_t id)
+Object* FindById(const CHostItems<Object>& objects, std::uint16_t id)
 {
     for (const auto& object : objects)
         if (object->Values().id == id)
@@ -23,87 +23,87 @@ std::uint8_t ColorIndexOf(const Object* object)
 
 } // namespace
 
-InkChannelTableObject::InkChannelTableObject(const std::vector<InkChannel>& channels,
-                                             const std::vector<Layout>& layouts)
-    : m_channels(channels), m_layouts(layouts)
+CInkChannelTableObject::CInkChannelTableObject(const std::vector<InkChannel>& channels,
+                                               const std::vector<Layout>& layouts)
+    : m_channels(channels), m_vecLayouts(layouts)
 {
 }
 
-InkChannelObject* InkChannelTableObject::Find(std::uint16_t id) const
+CInkChannelObject* CInkChannelTableObject::Find(std::uint16_t id) const
 {
     return FindById(m_channels, id);
 }
 
-std::uint8_t InkChannelTableObject::GetColorIndex(std::uint16_t channelId)
+std::uint8_t CInkChannelTableObject::GetColorIndex(std::uint16_t channelId)
 {
     return ColorIndexOf(Find(channelId));
 }
 
-void InkChannelTableObject::GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels)
+void CInkChannelTableObject::GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels)
 {
-    for (const Layout& layout : m_layouts)
+    for (const Layout& layout : m_vecLayouts)
         if (layout.id == layoutId)
         {
             for (std::uint16_t id : layout.channels)
-                if (InkChannelObject* channel = Find(id))
+                if (CInkChannelObject* channel = Find(id))
                     channels->push_back(channel);
             return;
         }
 }
 
-InkGroupObject::InkGroupObject(const InkGroup& group, const InkChannelTableObject& channels)
+CInkGroupObject::CInkGroupObject(const InkGroup& group, const CInkChannelTableObject& channels)
     : m_group(group), m_channels(channels)
 {
 }
 
-std::uint16_t InkGroupObject::GetId()
+std::uint16_t CInkGroupObject::GetId()
 {
     return m_group.id;
 }
 
-const char* InkGroupObject::GetName()
+const char* CInkGroupObject::GetName()
 {
     return m_group.name.c_str();
 }
 
-std::uint32_t InkGroupObject::GetChannelCount()
+std::uint32_t CInkGroupObject::GetChannelCount()
 {
     return static_cast<std::uint32_t>(m_group.channels.size());
 }
 
-IInkChannel* InkGroupObject::GetChannel(std::uint32_t index)
+IInkChannel* CInkGroupObject::GetChannel(std::uint32_t index)
 {
     return index < m_group.channels.size() ? m_channels.Find(m_group.channels[index]) : nullptr;
 }
 
-InkGroupTableObject::InkGroupTableObject(const std::vector<InkGroup>& groups, const InkChannelTableObject& channels)
+CInkGroupTableObject::CInkGroupTableObject(const std::vector<InkGroup>& groups, const CInkChannelTableObject& channels)
 
 {
     for (const InkGroup& group : groups)
         m_groups.Add(group, channels);
 }
 
-std::uint32_t InkGroupTableObject::GetCount()
+std::uint32_t CInkGroupTableObject::GetCount()
 {
     return m_groups.Count();
 }
 
-IInkGroup* InkGroupTableObject::GetAt(std::uint32_t index)
+IInkGroup* CInkGroupTableObject::GetAt(std::uint32_t index)
 {
     return m_groups.At(index);
 }
 
-IInkGroup* InkGroupTableObject::GetGroup(std::uint16_t groupId)
+IInkGroup* CInkGroupTableObject::GetGroup(std::uint16_t groupId)
 {
     return Find(groupId);
 }
 
-std::uint8_t InkGroupTableObject::GetColorIndex(std::uint16_t groupId)
+std::uint8_t CInkGroupTableObject::GetColorIndex(std::uint16_t groupId)
 {
     return ColorIndexOf(Find(groupId));
 }
 
-InkGroupObject* InkGroupTableObject::Find(std::uint16_t id) const
+CInkGroupObject* CInkGroupTableObject::Find(std::uint16_t id) const
 {
     return FindById(m_groups, id);
 }

@@ -11,10 +11,10 @@
 namespace refhost
 {
 
-class InkChannelObject : public IInkChannel
+class CInkChannelObject : public IInkChannel
 {
 public:
-    explicit InkChannelObject(const InkChannel& channel) : m_channel(channel) {}
+    explicit CInkChannelObject(const InkChannel& channel) : m_channel(channel) {}
 
     const InkChannel& Values() const { return m_channel; }
 
@@ -25,26 +25,26 @@ private:
     InkChannel m_channel;
 };
 
-class InkChannelTableObject : public IInkChannelTable
+class CInkChannelTableObject : public IInkChannelTable
 {
 public:
-    InkChannelTableObject(const std::vector<InkChannel>& channels, const std::vector<Layout>& layouts);
+    CInkChannelTableObject(const std::vector<InkChannel>& channels, const std::vector<Layout>& layouts);
 
-    /// Null when the machine has no such channel.
-    InkChannelObject* Find(std::uint16_t id) const;
+    // Null when the machine has no such channel.
+    CInkChannelObject* Find(std::uint16_t id) const;
 
     std::uint8_t GetColorIndex(std::uint16_t channelId) override;
     void GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels) override;
 
 private:
-    HostItems<InkChannelObject> m_channels;
-    std::vector<Layout> m_layouts;
+    CHostItems<CInkChannelObject> m_channels;
+    std::vector<Layout> m_vecLayouts;
 };
 
-class InkGroupObject : public IInkGroup
+class CInkGroupObject : public IInkGroup
 {
 public:
-    InkGroupObject(const InkGroup& group, const InkChannelTableObject& channels);
+    CInkGroupObject(const InkGroup& group, const CInkChannelTableObject& channels);
 
     const InkGroup& Values() const { return m_group; }
 
@@ -55,13 +55,13 @@ public:
 
 private:
     InkGroup m_group;
-    const InkChannelTableObject& m_channels;
+    const CInkChannelTableObject& m_channels;
 };
 
-class InkGroupTableObject : public IInkGroupTable
+class CInkGroupTableObject : public IInkGroupTable
 {
 public:
-    InkGroupTableObject(const std::vector<InkGroup>& groups, const InkChannelTableObject& channels);
+    CInkGroupTableObject(const std::vector<InkGroup>& groups, const CInkChannelTableObject& channels);
 
     std::uint32_t GetCount() override;
     IInkGroup* GetAt(std::uint32_t index) override;
@@ -69,9 +69,9 @@ public:
     std::uint8_t GetColorIndex(std::uint16_t groupId) override;
 
 private:
-    InkGroupObject* Find(std::uint16_t id) const;
+    CInkGroupObject* Find(std::uint16_t id) const;
 
-    HostItems<InkGroupObject> m_groups;
+    CHostItems<CInkGroupObject> m_groups;
 };
 
 } // namespace refhost

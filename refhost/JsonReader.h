@@ -16,14 +16,14 @@ namespace refhost
 
 using Json = nlohmann::ordered_json;
 
-/// One JSON object of a machine file. Each member must be there, of the right kind and within its range, and no
-/// member may be left over: an unknown one would be lost at the next save. Throws MachineFileError with the place.
-class JsonReader
+// One JSON object of a machine file. Each member must be there, of the right kind and within its range, and no
+// member may be left over: an unknown one would be lost at the next save. Throws CMachineFileError with the place.
+class CJsonReader
 {
 public:
-    /// `place` names the object in messages, e.g. "configurations[2]"; it is empty for the whole file. Names are
-    /// converted to `codePage`.
-    JsonReader(const Json& object, std::string place, std::uint32_t codePage);
+    // `place` names the object in messages, e.g. "configurations[2]"; it is empty for the whole file. Names are
+    // converted to `codePage`.
+    CJsonReader(const Json& object, std::string place, std::uint32_t codePage);
 
     template <class T>
     void operator()(const char* key, T& value)
@@ -50,7 +50,7 @@ private:
     template <class T>
     std::enable_if_t<std::is_class_v<T>> Read(const Json& json, const std::string& place, T& record) const
     {
-        JsonReader reader(json, place, m_codePage);
+        CJsonReader reader(json, place, m_nCodePage);
         Describe(reader, record);
         reader.RefuseUnknownMembers();
     }
@@ -83,9 +83,9 @@ private:
     static void RequireLength(const Json& json, const std::string& place, std::size_t length);
 
     const Json& m_object;
-    std::string m_place;
-    std::uint32_t m_codePage;
-    std::set<std::string> m_known;
+    std::string m_strPlace;
+    std::uint32_t m_nCodePage;
+    std::set<std::string> m_setKnown;
 };
 
 } // namespace refhost

@@ -10,7 +10,7 @@ namespace refhost
 namespace
 {
 
-constexpr std::size_t kLineLength = 100;
+constexpr std::size_t LINE_LENGTH = 100;
 
 std::string HexOfBytes(const std::string& bytes)
 {
@@ -55,7 +55,7 @@ std::string OneLine(const Json& json)
 std::string Format(const Json& json, const std::string& indent)
 {
     const std::string line = OneLine(json);
-    if (!json.is_structured() || IsListOfScalars(json) || indent.size() + line.size() <= kLineLength)
+    if (!json.is_structured() || IsListOfScalars(json) || indent.size() + line.size() <= LINE_LENGTH)
         return line;
     const std::string deeper = indent + "  ";
     std::string text;
@@ -70,9 +70,9 @@ std::string Format(const Json& json, const std::string& indent)
 
 } // namespace
 
-JsonWriter::JsonWriter(std::uint32_t codePage) : m_codePage(codePage) {}
+CJsonWriter::CJsonWriter(std::uint32_t codePage) : m_nCodePage(codePage) {}
 
-Json JsonWriter::Write(float value) const
+Json CJsonWriter::Write(float value) const
 {
     // Through the shortest text that names this float: a float widened to double would show as 0.10000000149.
     char text[32] = {};
@@ -80,9 +80,9 @@ Json JsonWriter::Write(float value) const
     return std::strtod(text, nullptr);
 }
 
-Json JsonWriter::Write(std::string& name) const
+Json CJsonWriter::Write(std::string& name) const
 {
-    if (const auto utf8 = Utf8FromNarrow(name, m_codePage))
+    if (const auto utf8 = Utf8FromNarrow(name, m_nCodePage))
         return *utf8;
     return Json{{"bytes", HexOfBytes(name)}};
 }

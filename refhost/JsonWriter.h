@@ -1,4 +1,4 @@
-// Builds the JSON that JsonReader reads.
+// Builds the JSON that CJsonReader reads.
 #pragma once
 
 #include <array>
@@ -12,11 +12,11 @@
 namespace refhost
 {
 
-class JsonWriter
+class CJsonWriter
 {
 public:
-    /// Names are converted from `codePage`.
-    explicit JsonWriter(std::uint32_t codePage);
+    // Names are converted from `codePage`.
+    explicit CJsonWriter(std::uint32_t codePage);
 
     template <class T>
     void operator()(const char* key, T& value)
@@ -39,7 +39,7 @@ private:
     template <class T>
     std::enable_if_t<std::is_class_v<T>, Json> Write(T& record) const
     {
-        JsonWriter writer(m_codePage);
+        CJsonWriter writer(m_nCodePage);
         Describe(writer, record);
         return writer.Object();
     }
@@ -67,12 +67,12 @@ private:
         return list;
     }
 
-    std::uint32_t m_codePage;
+    std::uint32_t m_nCodePage;
     Json m_object = Json::object();
 };
 
-/// The text of a document: one value per line, short lists and objects on one line, so that a change of one value is
-/// a change of one line.
+// The text of a document: one value per line, short lists and objects on one line, so that a change of one value is
+// a change of one line.
 std::string FormatJson(const Json& json);
 
 } // namespace refhost

@@ -5,8 +5,8 @@ namespace refhost
 
 SchemeValues::SchemeValues()
 {
-    inkMultiple.fill(kDefaultInkMultiple);
-    inkCut.fill(kDefaultInkCut);
+    inkMultiple.fill(DEFAULT_INK_MULTIPLE);
+    inkCut.fill(DEFAULT_INK_CUT);
 }
 
 } // namespace refhost

@@ -12,15 +12,15 @@
 namespace refhost
 {
 
-constexpr std::uint8_t kNoDataMode = 255;
-constexpr std::uint16_t kDefaultPassCount = 4;
-constexpr std::uint16_t kDefaultInkMultiple = 10;
-constexpr std::uint8_t kDefaultInkCut = 100;
+constexpr std::uint8_t NO_DATA_MODE = 255;
+constexpr std::uint16_t DEFAULT_PASS_COUNT = 4;
+constexpr std::uint16_t DEFAULT_INK_MULTIPLE = 10;
+constexpr std::uint8_t DEFAULT_INK_CUT = 100;
 
 struct PrintMode
 {
     std::string name;
-    std::uint16_t passCount = kDefaultPassCount;
+    std::uint16_t passCount = DEFAULT_PASS_COUNT;
     bool disabled = false;
     std::uint8_t resident = 0;
     std::int32_t xResolutionIndex = 0;
@@ -30,7 +30,7 @@ struct PrintMode
     std::vector<float> largeDotCompensation;
     std::vector<bool> frontCompensation;
     std::vector<bool> backCompensation;
-    // One index per head layout, in the order of the head layouts; a missing one counts as kNoDataMode.
+    // One index per head layout, in the order of the head layouts; a missing one counts as NO_DATA_MODE.
     std::vector<std::uint8_t> headDataModes;
 };
 

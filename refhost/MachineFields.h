@@ -1,7 +1,7 @@
 // The one list of what a machine file holds. Reading and writing both walk it, so that a value cannot be read and then
 // be forgotten when the file is written.
 //
-// `fields` is a JsonReader or a JsonWriter; fields(key, value) handles one member of the JSON object.
+// `fields` is a CJsonReader or a CJsonWriter; fields(key, value) handles one member of the JSON object.
 #pragma once
 
 #include "refhost/Machine.h"

@@ -15,13 +15,13 @@ Machine LoadMachine(const std::wstring& path)
     {
         return ParseMachine(text);
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
-        throw MachineFileError(Utf8FromWide(path) + ": " + error.what());
+        throw CMachineFileError(Utf8FromWide(path) + ": " + error.what());
     }
     catch (const std::bad_alloc&)
     {
-        throw MachineFileError(Utf8FromWide(path) + ": there is not enough memory for it");
+        throw CMachineFileError(Utf8FromWide(path) + ": there is not enough memory for it");
     }
 }
 

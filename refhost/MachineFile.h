@@ -9,11 +9,11 @@
 namespace refhost
 {
 
-/// Throws MachineFileError, whose text names the file and the place in it (line and column, or the value). The file
-/// is only read.
+// Throws CMachineFileError, whose text names the file and the place in it (line and column, or the value). The file
+// is only read.
 Machine LoadMachine(const std::wstring& path);
 
-/// Throws MachineFileError; the old file is untouched then.
+// Throws CMachineFileError; the old file is untouched then.
 void SaveMachine(const Machine& machine, const std::wstring& path);
 
 } // namespace refhost

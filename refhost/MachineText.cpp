@@ -17,23 +17,23 @@ namespace refhost
 namespace
 {
 
-constexpr const char* kFormat = "quorvane-machine";
-constexpr std::uint32_t kVersion = 1;
+constexpr const char* FORMAT = "quorvane-machine";
+constexpr std::uint32_t VERSION = 1;
 
 // What the parser would take and a machine file never holds, refused while it is read.
-class ShapeGuard
+class CShapeGuard
 {
 public:
     void Check(int depth, Json::parse_event_t event, const Json& parsed)
     {
         const auto level = static_cast<std::size_t>(depth);
         // Walking the values of a deeper file would take more stack than there is.
-        if (level >= kDeepest)
-            throw MachineFileError("there are too many values inside one another");
+        if (level >= DEEPEST)
+            throw CMachineFileError("there are too many values inside one another");
         if (event == Json::parse_event_t::object_start)
-            m_keys[level + 1].clear();
+            m_arrKeys[level + 1].clear();
         if (event == Json::parse_event_t::key)
-            CheckKey(m_keys[level], parsed.get<std::string>());
+            CheckKey(m_arrKeys[level], parsed.get<std::string>());
     }
 
 private:
@@ -41,17 +41,17 @@ private:
     {
         // Of two members of one name the parser would quietly keep the last.
         if (!keys.insert(key).second)
-            throw MachineFileError("the value \"" + Excerpt(key, kLongestKey) + "\" is there twice in one object");
+            throw CMachineFileError("the value \"" + Excerpt(key, LONGEST_KEY) + "\" is there twice in one object");
         // It searches all members for each new one: a crowded object would take it hours.
-        if (keys.size() > kMostMembers)
-            throw MachineFileError("one object has too many values");
+        if (keys.size() > MOST_MEMBERS)
+            throw CMachineFileError("one object has too many values");
     }
 
-    static constexpr std::size_t kDeepest = 32;
-    static constexpr std::size_t kMostMembers = 256;
-    static constexpr std::size_t kLongestKey = 40;
+    static constexpr std::size_t DEEPEST = 32;
+    static constexpr std::size_t MOST_MEMBERS = 256;
+    static constexpr std::size_t LONGEST_KEY = 40;
 
-    std::array<std::set<std::string>, kDeepest + 1> m_keys;
+    std::array<std::set<std::string>, DEEPEST + 1> m_arrKeys;
 };
 
 // "line 3, column 8" of the last character that was read, but for those that were read `ahead`.
@@ -68,7 +68,7 @@ Json ParseJson(std::string_view text)
 {
     constexpr std::size_t longestReason = 400; // the parser's reasons quote the file
     std::istringstream stream{std::string(text)};
-    ShapeGuard guard;
+    CShapeGuard guard;
     try
     {
         return Json::parse(stream, [&guard](int depth, Json::parse_event_t event, const Json& parsed) {
@@ -78,23 +78,23 @@ Json ParseJson(std::string_view text)
     }
     catch (const Json::parse_error& error)
     {
-        throw MachineFileError(Excerpt(error.what(), longestReason));
+        throw CMachineFileError(Excerpt(error.what(), longestReason));
     }
     catch (const Json::out_of_range&)
     {
-        throw MachineFileError(PlaceReached(stream, text, 1) + ": the number is too large");
+        throw CMachineFileError(PlaceReached(stream, text, 1) + ": the number is too large");
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
-        throw MachineFileError(PlaceReached(stream, text, 0) + ": " + error.what());
+        throw CMachineFileError(PlaceReached(stream, text, 0) + ": " + error.what());
     }
 }
 
 // The first values of the file: they say that it is one of ours and how the rest is to be read.
 struct Header
 {
-    std::string format = kFormat;
-    std::uint32_t version = kVersion;
+    std::string format = FORMAT;
+    std::uint32_t version = VERSION;
     std::uint32_t codePage = 0;
 };
 
@@ -108,13 +108,13 @@ void Describe(Fields& fields, Header& header)
 
 void CheckHeader(const Header& header)
 {
-    if (header.format != kFormat)
-        throw MachineFileError("format: this is no machine file");
-    if (header.version != kVersion)
-        throw MachineFileError("version: " + std::to_string(header.version) + " is not known, only " +
-                               std::to_string(kVersion));
+    if (header.format != FORMAT)
+        throw CMachineFileError("format: this is no machine file");
+    if (header.version != VERSION)
+        throw CMachineFileError("version: " + std::to_string(header.version) + " is not known, only " +
+                                std::to_string(VERSION));
     if (!LocaleOfCodePage(header.codePage))
-        throw MachineFileError("codePage: " + std::to_string(header.codePage) + " is no code page for names");
+        throw CMachineFileError("codePage: " + std::to_string(header.codePage) + " is no code page for names");
 }
 
 } // namespace
@@ -124,13 +124,13 @@ Machine ParseMachine(std::string_view text)
     constexpr std::uint32_t anyCodePage = 1252; // of the format's name, which is plain ASCII
     const Json json = ParseJson(text);
     Header header;
-    JsonReader headerReader(json, std::string(), anyCodePage);
+    CJsonReader headerReader(json, std::string(), anyCodePage);
     Describe(headerReader, header);
     CheckHeader(header);
 
     Machine machine;
     machine.codePage = header.codePage;
-    JsonReader reader(json, std::string(), header.codePage);
+    CJsonReader reader(json, std::string(), header.codePage);
     Describe(reader, header);
     Describe(reader, machine);
     reader.RefuseUnknownMembers();
@@ -142,7 +142,7 @@ std::string FormatMachine(const Machine& machine)
     Header header;
     header.codePage = machine.codePage;
     Machine copy = machine; // the list of fields is walked in the same way for reading
-    JsonWriter writer(machine.codePage);
+    CJsonWriter writer(machine.codePage);
     Describe(writer, header);
     Describe(writer, copy);
     return FormatJson(writer.Object());

@@ -9,7 +9,7 @@
 namespace refhost
 {
 
-/// Throws MachineFileError, whose text names the place (line and column, or the value).
+// Throws CMachineFileError, whose text names the place (line and column, or the value).
 Machine ParseMachine(std::string_view text);
 std::string FormatMachine(const Machine& machine);
 

@@ -13,7 +13,7 @@ struct CodePageLocale
     std::uint32_t locale;
 };
 
-constexpr CodePageLocale kLocales[] = {
+constexpr CodePageLocale LOCALES[] = {
     {874, 0x041E},  {932, 0x0411},  {936, 0x0804},  {949, 0x0412},  {950, 0x0404},  {1250, 0x0405}, {1251, 0x0419},
     {1252, 0x0409}, {1253, 0x0408}, {1254, 0x041F}, {1255, 0x040D}, {1256, 0x0401}, {1257, 0x0427}, {1258, 0x042A},
 };
@@ -22,7 +22,7 @@ constexpr CodePageLocale kLocales[] = {
 
 std::optional<std::uint32_t> LocaleOfCodePage(std::uint32_t codePage)
 {
-    for (const CodePageLocale& entry : kLocales)
+    for (const CodePageLocale& entry : LOCALES)
         if (entry.codePage == codePage)
             return entry.locale;
     return std::nullopt;

@@ -9,14 +9,14 @@
 namespace refhost
 {
 
-/// The locale that makes `codePage` the thread's ANSI code page, for SetThreadLocale; nothing for a code page that a
-/// machine cannot have.
+// The locale that makes `codePage` the thread's ANSI code page, for SetThreadLocale; nothing for a code page that a
+// machine cannot have.
 std::optional<std::uint32_t> LocaleOfCodePage(std::uint32_t codePage);
 
-/// Nothing when the text holds a character that the code page has not.
+// Nothing when the text holds a character that the code page has not.
 std::optional<std::string> NarrowFromUtf8(std::string_view utf8, std::uint32_t codePage);
 
-/// Nothing when the bytes are no valid text of the code page.
+// Nothing when the bytes are no valid text of the code page.
 std::optional<std::string> Utf8FromNarrow(std::string_view narrow, std::uint32_t codePage);
 
 } // namespace refhost

@@ -5,94 +5,94 @@
 namespace refhost
 {
 
-PrintConfigObject::PrintConfigObject(const PrintConfig& config) : m_config(config), m_modes(config.modes)
+CPrintConfigObject::CPrintConfigObject(const PrintConfig& config) : m_config(config), m_modes(config.modes)
 {
     m_config.modes.clear();
 }
 
-PrintConfig PrintConfigObject::Values() const
+PrintConfig CPrintConfigObject::Values() const
 {
     PrintConfig values = m_config;
     values.modes = m_modes.Values();
     return values;
 }
 
-void PrintConfigObject::SetName(const char* name)
+void CPrintConfigObject::SetName(const char* name)
 {
     m_config.name = GivenName(name);
 }
 
-void PrintConfigObject::SetXResolution(std::int32_t dpi)
+void CPrintConfigObject::SetXResolution(std::int32_t dpi)
 {
     m_config.xResolution = static_cast<std::uint16_t>(dpi);
 }
 
-void PrintConfigObject::SetYResolution(std::int32_t dpi)
+void CPrintConfigObject::SetYResolution(std::int32_t dpi)
 {
     m_config.yResolution = static_cast<std::uint16_t>(dpi);
 }
 
-void PrintConfigObject::SetColorCount(std::int32_t count)
+void CPrintConfigObject::SetColorCount(std::int32_t count)
 {
     m_config.colorCount = static_cast<std::uint8_t>(count);
 }
 
-void PrintConfigObject::SetDotBits(std::int32_t bits)
+void CPrintConfigObject::SetDotBits(std::int32_t bits)
 {
     m_config.dotBits = static_cast<std::uint8_t>(bits);
 }
 
-void PrintConfigObject::SetEnabled(std::int32_t enabled)
+void CPrintConfigObject::SetEnabled(std::int32_t enabled)
 {
     m_config.enabled = enabled != 0;
 }
 
-const char* PrintConfigObject::GetName()
+const char* CPrintConfigObject::GetName()
 {
     return m_config.name.c_str();
 }
 
-std::uint16_t PrintConfigObject::GetXResolution()
+std::uint16_t CPrintConfigObject::GetXResolution()
 {
     return m_config.xResolution;
 }
 
-std::uint16_t PrintConfigObject::GetYResolution()
+std::uint16_t CPrintConfigObject::GetYResolution()
 {
     return m_config.yResolution;
 }
 
-std::uint8_t PrintConfigObject::GetColorCount()
+std::uint8_t CPrintConfigObject::GetColorCount()
 {
     return m_config.colorCount;
 }
 
-std::uint8_t PrintConfigObject::GetDotBits()
+std::uint8_t CPrintConfigObject::GetDotBits()
 {
     return m_config.dotBits;
 }
 
-std::int32_t PrintConfigObject::GetEnabled()
+std::int32_t CPrintConfigObject::GetEnabled()
 {
     return m_config.enabled;
 }
 
-std::uint32_t PrintConfigObject::GetModeCount()
+std::uint32_t CPrintConfigObject::GetModeCount()
 {
     return m_modes.Count();
 }
 
-IPrintMode* PrintConfigObject::GetMode(std::uint32_t index)
+IPrintMode* CPrintConfigObject::GetMode(std::uint32_t index)
 {
     return m_modes.At(index);
 }
 
-IPrintMode* PrintConfigObject::AddMode()
+IPrintMode* CPrintConfigObject::AddMode()
 {
     return &m_modes.Add(PrintMode());
 }
 
-void PrintConfigObject::RemoveMode(std::uint32_t index)
+void CPrintConfigObject::RemoveMode(std::uint32_t index)
 {
     m_modes.Remove(index);
 }

@@ -8,12 +8,12 @@
 namespace refhost
 {
 
-class PrintConfigObject : public IPrintConfig
+class CPrintConfigObject : public IPrintConfig
 {
 public:
-    explicit PrintConfigObject(const PrintConfig& config);
+    explicit CPrintConfigObject(const PrintConfig& config);
 
-    /// With the modes as they are now.
+    // With the modes as they are now.
     PrintConfig Values() const;
 
     void SetName(const char* name) override;
@@ -35,7 +35,7 @@ public:
 
 private:
     PrintConfig m_config; // its modes lie in m_modes
-    HostItems<PrintModeObject> m_modes;
+    CHostItems<CPrintModeObject> m_modes;
 };
 
 } // namespace refhost

@@ -6,10 +6,10 @@
 namespace refhost
 {
 
-class PrintModeObject : public IPrintMode
+class CPrintModeObject : public IPrintMode
 {
 public:
-    explicit PrintModeObject(const PrintMode& mode);
+    explicit CPrintModeObject(const PrintMode& mode);
 
     const PrintMode& Values() const { return m_mode; }
 

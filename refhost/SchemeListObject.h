@@ -7,12 +7,12 @@
 namespace refhost
 {
 
-/// `Object` is FactorySchemeObject or UserSchemeObject.
+// `Object` is CFactorySchemeObject or CUserSchemeObject.
 template <class Interface, class Object, class Scheme>
-class SchemeListObject : public ISchemeList<Interface>
+class CSchemeListObject : public ISchemeList<Interface>
 {
 public:
-    explicit SchemeListObject(const std::vector<Scheme>& schemes) : m_schemes(schemes) {}
+    explicit CSchemeListObject(const std::vector<Scheme>& schemes) : m_schemes(schemes) {}
 
     std::vector<Scheme> Values() const { return m_schemes.Values(); }
 
@@ -22,10 +22,10 @@ public:
     void RemoveAt(std::uint32_t index) override { m_schemes.Remove(index); }
 
 private:
-    HostItems<Object> m_schemes;
+    CHostItems<Object> m_schemes;
 };
 
-using FactorySchemeListObject = SchemeListObject<IPrintScheme, FactorySchemeObject, FactoryScheme>;
-using UserSchemeListObject = SchemeListObject<IUserScheme, UserSchemeObject, UserScheme>;
+using CFactorySchemeListObject = CSchemeListObject<IPrintScheme, CFactorySchemeObject, FactoryScheme>;
+using CUserSchemeListObject = CSchemeListObject<IUserScheme, CUserSchemeObject, UserScheme>;
 
 } // namespace refhost

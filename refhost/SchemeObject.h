@@ -9,13 +9,13 @@
 namespace refhost
 {
 
-/// The operations that factory and user schemes have in common. The two interfaces are unrelated tables, so the
-/// interface is a parameter.
+// The operations that factory and user schemes have in common. The two interfaces are unrelated tables, so the
+// interface is a parameter.
 template <class Interface, class Scheme>
-class SchemeObject : public Interface
+class CSchemeObject : public Interface
 {
 public:
-    explicit SchemeObject(const Scheme& scheme) : m_scheme(scheme), m_params(m_scheme) {}
+    explicit CSchemeObject(const Scheme& scheme) : m_scheme(scheme), m_params(m_scheme) {}
 
     const Scheme& Values() const { return m_scheme; }
 
@@ -93,13 +93,13 @@ private:
         return index < N ? values[index] : T();
     }
 
-    SchemeParamsObject m_params;
+    CSchemeParamsObject m_params;
 };
 
-class FactorySchemeObject : public SchemeObject<IPrintScheme, FactoryScheme>
+class CFactorySchemeObject : public CSchemeObject<IPrintScheme, FactoryScheme>
 {
 public:
-    using SchemeObject::SchemeObject;
+    using CSchemeObject::CSchemeObject;
 
     void SetModeIndex(std::uint8_t value) override { m_scheme.modeIndex = value; }
     void SetWaitStepStop(std::uint8_t value) override { m_scheme.waitStepStop = value; }
@@ -120,10 +120,10 @@ public:
     std::uint16_t GetSmallFormatOffset() override { return m_scheme.smallFormatOffset; }
 };
 
-class UserSchemeObject : public SchemeObject<IUserScheme, UserScheme>
+class CUserSchemeObject : public CSchemeObject<IUserScheme, UserScheme>
 {
 public:
-    using SchemeObject::SchemeObject;
+    using CSchemeObject::CSchemeObject;
 
     void SetBaseScheme(std::int16_t value) override { m_scheme.baseScheme = static_cast<std::uint8_t>(value); }
     std::uint8_t GetBaseScheme() override { return m_scheme.baseScheme; }

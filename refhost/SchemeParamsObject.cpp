@@ -3,21 +3,21 @@
 namespace refhost
 {
 
-SchemeParamsObject::SchemeParamsObject(FactoryScheme& scheme) : m_values(scheme), m_factoryOnly(&scheme) {}
+CSchemeParamsObject::CSchemeParamsObject(FactoryScheme& scheme) : m_values(scheme), m_pFactoryOnly(&scheme) {}
 
-SchemeParamsObject::SchemeParamsObject(UserScheme& scheme) : m_values(scheme), m_userOnly(&scheme) {}
+CSchemeParamsObject::CSchemeParamsObject(UserScheme& scheme) : m_values(scheme), m_pUserOnly(&scheme) {}
 
-void SchemeParamsObject::CopyFrom(ISchemeParams* source)
+void CSchemeParamsObject::CopyFrom(ISchemeParams* source)
 {
     // Every block that an editor can hold was made by this host.
-    const auto* block = static_cast<const SchemeParamsObject*>(source);
+    const auto* block = static_cast<const CSchemeParamsObject*>(source);
     if (block == nullptr)
         return;
     m_values = block->m_values;
-    if (m_factoryOnly != nullptr && block->m_factoryOnly != nullptr)
-        *m_factoryOnly = *block->m_factoryOnly;
-    if (m_userOnly != nullptr && block->m_userOnly != nullptr)
-        *m_userOnly = *block->m_userOnly;
+    if (m_pFactoryOnly != nullptr && block->m_pFactoryOnly != nullptr)
+        *m_pFactoryOnly = *block->m_pFactoryOnly;
+    if (m_pUserOnly != nullptr && block->m_pUserOnly != nullptr)
+        *m_pUserOnly = *block->m_pUserOnly;
 }
 
 } // namespace refhost

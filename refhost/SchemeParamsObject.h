@@ -6,20 +6,20 @@
 namespace refhost
 {
 
-/// The parameter block of a scheme of either kind. Copying takes over every value that both kinds have, the name and
-/// the configuration index included.
-class SchemeParamsObject : public ISchemeParams
+// The parameter block of a scheme of either kind. Copying takes over every value that both kinds have, the name and
+// the configuration index included.
+class CSchemeParamsObject : public ISchemeParams
 {
 public:
-    explicit SchemeParamsObject(FactoryScheme& scheme);
-    explicit SchemeParamsObject(UserScheme& scheme);
+    explicit CSchemeParamsObject(FactoryScheme& scheme);
+    explicit CSchemeParamsObject(UserScheme& scheme);
 
     void CopyFrom(ISchemeParams* source) override;
 
 private:
     SchemeValues& m_values;
-    FactoryOnlyValues* m_factoryOnly = nullptr;
-    UserOnlyValues* m_userOnly = nullptr;
+    FactoryOnlyValues* m_pFactoryOnly = nullptr;
+    UserOnlyValues* m_pUserOnly = nullptr;
 };
 
 } // namespace refhost

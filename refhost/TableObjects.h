@@ -22,27 +22,27 @@
 namespace refhost
 {
 
-/// A list with GetCount and GetAt. `Record` is what the machine holds of one item.
+// A list with GetCount and GetAt. `Record` is what the machine holds of one item.
 template <class ListInterface, class ItemInterface, class Item, class Record>
-class TableObject : public ListInterface
+class CTableObject : public ListInterface
 {
 public:
-    explicit TableObject(const std::vector<Record>& records) : m_items(records) {}
+    explicit CTableObject(const std::vector<Record>& records) : m_items(records) {}
 
     std::uint32_t GetCount() override { return m_items.Count(); }
     ItemInterface* GetAt(std::uint32_t index) override { return m_items.At(index); }
 
 protected:
-    const HostItems<Item>& Items() const { return m_items; }
+    const CHostItems<Item>& Items() const { return m_items; }
 
 private:
-    HostItems<Item> m_items;
+    CHostItems<Item> m_items;
 };
 
-class LayoutObject : public ILayout
+class CLayoutObject : public ILayout
 {
 public:
-    explicit LayoutObject(const Layout& layout) : m_layout(layout) {}
+    explicit CLayoutObject(const Layout& layout) : m_layout(layout) {}
 
     const char* GetName() override { return m_layout.name.c_str(); }
     std::uint32_t GetId() override { return m_layout.id; }
@@ -51,14 +51,14 @@ private:
     Layout m_layout;
 };
 
-using LayoutListObject = TableObject<ILayoutList, ILayout, LayoutObject, Layout>;
+using CLayoutListObject = CTableObject<ILayoutList, ILayout, CLayoutObject, Layout>;
 
-/// An item of which editors read nothing but the name.
+// An item of which editors read nothing but the name.
 template <class Interface>
-class NamedObject : public Interface
+class CNamedObject : public Interface
 {
 public:
-    explicit NamedObject(const std::string& name) : m_strName(name) {}
+    explicit CNamedObject(const std::string& name) : m_strName(name) {}
 
     const char* GetName() override { return m_strName.c_str(); }
 
@@ -66,14 +66,14 @@ private:
     std::string m_strName;
 };
 
-using DataModeObject = NamedObject<IDataMode>;
-using XResolutionObject = NamedObject<IXResolution>;
-using XResolutionListObject = TableObject<IXResolutionList, IXResolution, XResolutionObject, std::string>;
+using CDataModeObject = CNamedObject<IDataMode>;
+using CXResolutionObject = CNamedObject<IXResolution>;
+using CXResolutionListObject = CTableObject<IXResolutionList, IXResolution, CXResolutionObject, std::string>;
 
-class HeadLayoutObject : public IHeadLayout
+class CHeadLayoutObject : public IHeadLayout
 {
 public:
-    explicit HeadLayoutObject(const HeadLayout& head);
+    explicit CHeadLayoutObject(const HeadLayout& head);
 
     std::uint16_t Id() const { return m_head.id; }
 
@@ -85,13 +85,13 @@ public:
 
 private:
     HeadLayout m_head;
-    HostItems<DataModeObject> m_dataModes;
+    CHostItems<CDataModeObject> m_dataModes;
 };
 
-class HeadLayoutListObject : public TableObject<IHeadLayoutList, IHeadLayout, HeadLayoutObject, HeadLayout>
+class CHeadLayoutListObject : public CTableObject<IHeadLayoutList, IHeadLayout, CHeadLayoutObject, HeadLayout>
 {
 public:
-    using TableObject::TableObject;
+    using CTableObject::CTableObject;
 
     IHeadLayout* FindById(std::uint16_t id) override;
     std::int32_t IndexOfId(std::uint16_t id) override;
@@ -100,10 +100,10 @@ private:
     std::int32_t Find(std::uint16_t id) const;
 };
 
-class ChannelSetupObject : public IChannelSetup
+class CChannelSetupObject : public IChannelSetup
 {
 public:
-    explicit ChannelSetupObject(const ChannelSetup& setup);
+    explicit CChannelSetupObject(const ChannelSetup& setup);
 
     const char* GetName() override;
     std::int32_t FindSetup(std::uint32_t id) override;
@@ -112,12 +112,12 @@ private:
     ChannelSetup m_setup;
 };
 
-using ChannelListObject = TableObject<IChannelList, IChannelSetup, ChannelSetupObject, ChannelSetup>;
+using CChannelListObject = CTableObject<IChannelList, IChannelSetup, CChannelSetupObject, ChannelSetup>;
 
-class MaterialObject : public IMaterial
+class CMaterialObject : public IMaterial
 {
 public:
-    explicit MaterialObject(const Material& material) : m_material(material) {}
+    explicit CMaterialObject(const Material& material) : m_material(material) {}
 
     std::uint16_t GetId() override { return m_material.id; }
     const char* GetName() override { return m_material.name.c_str(); }
@@ -126,12 +126,12 @@ private:
     Material m_material;
 };
 
-using MaterialListObject = TableObject<IMaterialList, IMaterial, MaterialObject, Material>;
+using CMaterialListObject = CTableObject<IMaterialList, IMaterial, CMaterialObject, Material>;
 
-class ActiveSetupObject : public IActiveSetup
+class CActiveSetupObject : public IActiveSetup
 {
 public:
-    explicit ActiveSetupObject(const ActiveSetup& setup);
+    explicit CActiveSetupObject(const ActiveSetup& setup);
 
     std::uint32_t GetId() override;
     std::uint32_t GetGroupCount() override;
@@ -141,21 +141,21 @@ private:
     ActiveSetup m_setup;
 };
 
-class DeviceStateObject : public IDeviceState
+class CDeviceStateObject : public IDeviceState
 {
 public:
-    explicit DeviceStateObject(const ActiveSetup& setup) : m_setup(setup) {}
+    explicit CDeviceStateObject(const ActiveSetup& setup) : m_setup(setup) {}
 
     IActiveSetup* GetActiveSetup() override { return &m_setup; }
 
 private:
-    ActiveSetupObject m_setup;
+    CActiveSetupObject m_setup;
 };
 
-class ParamTableObject : public IParamTable
+class CParamTableObject : public IParamTable
 {
 public:
-    explicit ParamTableObject(const ParamTable& table);
+    explicit CParamTableObject(const ParamTable& table);
 
     std::uint32_t Id() const { return m_table.id; }
 

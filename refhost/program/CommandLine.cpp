@@ -5,24 +5,24 @@
 namespace refhost
 {
 
-const wchar_t* const kUsage = L"Usage: QuorvaneHost.exe [--machine FILE] [--lang TAG] [--lang-dir DIR]\n"
-                              L"                        [--open printmodes|factory|user]\n\n"
-                              L"  --machine FILE   the machine file to work on\n"
-                              L"  --lang TAG       the editors' language: a folder of the language folder\n"
-                              L"  --lang-dir DIR   the language folder; \"lang\" beside the program by default\n"
-                              L"  --open EDITOR    open an editor at once; needs --machine";
+const wchar_t* const USAGE = L"Usage: QuorvaneHost.exe [--machine FILE] [--lang TAG] [--lang-dir DIR]\n"
+                             L"                        [--open printmodes|factory|user]\n\n"
+                             L"  --machine FILE   the machine file to work on\n"
+                             L"  --lang TAG       the editors' language: a folder of the language folder\n"
+                             L"  --lang-dir DIR   the language folder; \"lang\" beside the program by default\n"
+                             L"  --open EDITOR    open an editor at once; needs --machine";
 
 namespace
 {
 
 [[noreturn]] void Refuse(const std::wstring& reason)
 {
-    throw CommandLineError(Utf8FromWide(reason));
+    throw CCommandLineError(Utf8FromWide(reason));
 }
 
 const Editor* EditorNamed(const std::wstring& name)
 {
-    for (const Editor& editor : kEditors)
+    for (const Editor& editor : EDITORS)
         if (editor.name == name)
             return &editor;
     Refuse(L"There is no editor \"" + name + L"\".");

@@ -17,16 +17,16 @@ struct CommandLine
     const Editor* open = nullptr;
 };
 
-/// What is wrong with a command line, for its user to read.
-class CommandLineError : public std::runtime_error
+// What is wrong with a command line, for its user to read.
+class CCommandLineError : public std::runtime_error
 {
 public:
     using std::runtime_error::runtime_error;
 };
 
-extern const wchar_t* const kUsage;
+extern const wchar_t* const USAGE;
 
-/// `arguments` without the program's name. Throws CommandLineError.
+// `arguments` without the program's name. Throws CCommandLineError.
 CommandLine ParseCommandLine(const std::vector<std::wstring>& arguments);
 
 } // namespace refhost

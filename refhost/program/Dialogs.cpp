@@ -21,7 +21,7 @@ void ReportError(const std::wstring& text)
     const std::string line = Utf8FromWide(text) + "\n";
     DWORD written = 0;
     WriteFile(GetStdHandle(STD_ERROR_HANDLE), line.data(), static_cast<DWORD>(line.size()), &written, nullptr);
-    MessageBoxW(nullptr, text.c_str(), kProgramTitle, MB_OK | MB_ICONERROR);
+    MessageBoxW(nullptr, text.c_str(), PROGRAM_TITLE, MB_OK | MB_ICONERROR);
 }
 
 } // namespace refhost

@@ -7,11 +7,11 @@
 namespace refhost
 {
 
-inline constexpr const wchar_t* kProgramTitle = L"Quorvane Host";
+inline constexpr const wchar_t* PROGRAM_TITLE = L"Quorvane Host";
 
 void CentreOnScreen(HWND window);
 
-/// Says what is wrong on standard error, for scripts, and in a message box, for a person.
+// Says what is wrong on standard error, for scripts, and in a message box, for a person.
 void ReportError(const std::wstring& text);
 
 } // namespace refhost

@@ -13,22 +13,22 @@ Function Export(HMODULE module, const char* name)
 
 } // namespace
 
-EditorLibrary::EditorLibrary(const wchar_t* path) : m_module(LoadLibraryW(path))
+CEditorLibrary::CEditorLibrary(const wchar_t* path) : m_hModule(LoadLibraryW(path))
 {
-    if (m_module == nullptr)
+    if (m_hModule == nullptr)
         return;
-    const auto create = Export<NewInterfaceFunction>(m_module, "NewInterface");
-    m_release = Export<ReleaseInterfaceFunction>(m_module, "ReleaseInterface");
-    if (create != nullptr && m_release != nullptr)
-        m_editors = create();
+    const auto create = Export<NewInterfaceFunction>(m_hModule, "NewInterface");
+    m_pRelease = Export<ReleaseInterfaceFunction>(m_hModule, "ReleaseInterface");
+    if (create != nullptr && m_pRelease != nullptr)
+        m_pEditors = create();
 }
 
-EditorLibrary::~EditorLibrary()
+CEditorLibrary::~CEditorLibrary()
 {
-    if (m_editors != nullptr)
-        m_release(m_editors);
-    if (m_module != nullptr)
-        FreeLibrary(m_module);
+    if (m_pEditors != nullptr)
+        m_pRelease(m_pEditors);
+    if (m_hModule != nullptr)
+        FreeLibrary(m_hModule);
 }
 
 } // namespace refhost

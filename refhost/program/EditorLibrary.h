@@ -7,22 +7,22 @@
 namespace refhost
 {
 
-/// Quorvane.dll from the program's folder and the interface object that it gives, as any host would use it.
-class EditorLibrary
+// Quorvane.dll from the program's folder and the interface object that it gives, as any host would use it.
+class CEditorLibrary
 {
 public:
-    explicit EditorLibrary(const wchar_t* path);
-    ~EditorLibrary();
-    EditorLibrary(const EditorLibrary&) = delete;
-    EditorLibrary& operator=(const EditorLibrary&) = delete;
+    explicit CEditorLibrary(const wchar_t* path);
+    ~CEditorLibrary();
+    CEditorLibrary(const CEditorLibrary&) = delete;
+    CEditorLibrary& operator=(const CEditorLibrary&) = delete;
 
-    /// Null when the library cannot be used.
-    IQuorvane* Editors() const { return m_editors; }
+    // Null when the library cannot be used.
+    IQuorvane* Editors() const { return m_pEditors; }
 
 private:
-    HMODULE m_module;
-    ReleaseInterfaceFunction m_release = nullptr;
-    IQuorvane* m_editors = nullptr;
+    HMODULE m_hModule;
+    ReleaseInterfaceFunction m_pRelease = nullptr;
+    IQuorvane* m_pEditors = nullptr;
 };
 
 } // namespace refhost

@@ -17,7 +17,7 @@ struct Editor
     std::int32_t (IQuorvane::*run)(IHostData* data, IHostControl* control, const wchar_t* languageDir);
 };
 
-inline constexpr std::array<Editor, 3> kEditors = {{
+inline constexpr std::array<Editor, 3> EDITORS = {{
     {L"printmodes", IDC_PRINT_MODES, &IQuorvane::EditPrintModes},
     {L"factory", IDC_FACTORY_SCHEMES, &IQuorvane::EditFactorySchemes},
     {L"user", IDC_USER_SCHEMES, &IQuorvane::EditUserSchemes},

@@ -7,38 +7,38 @@
 namespace refhost
 {
 
-MachineDocument::MachineDocument(const std::wstring& path)
-    : m_path(std::filesystem::absolute(path).wstring()), m_accepted(LoadMachine(m_path))
+CMachineDocument::CMachineDocument(const std::wstring& path)
+    : m_strPath(std::filesystem::absolute(path).wstring()), m_accepted(LoadMachine(m_strPath))
 {
 }
 
-void MachineDocument::Edit(const std::function<void(IHostData*, IHostControl*)>& editor)
+void CMachineDocument::Edit(const std::function<void(IHostData*, IHostControl*)>& editor)
 {
-    m_host = std::make_unique<Host>(m_accepted);
-    m_host->OnSave([this](SaveRequest request) { Accept(request); });
-    editor(m_host->Data(), m_host->Control());
+    m_pHost = std::make_unique<CHost>(m_accepted);
+    m_pHost->OnSave([this](SaveRequest request) { Accept(request); });
+    editor(m_pHost->Data(), m_pHost->Control());
 }
 
-void MachineDocument::Accept(SaveRequest request)
+void CMachineDocument::Accept(SaveRequest request)
 {
     // Called from within an editor: nothing may be thrown through its library.
     try
     {
         Take(request);
-        SaveMachine(m_accepted, m_path);
+        SaveMachine(m_accepted, m_strPath);
         GetLocalTime(&m_saveTime);
         m_state = SaveState::Saved;
     }
     catch (const std::exception& error)
     {
         m_state = SaveState::Failed;
-        m_error = error.what();
+        m_strError = error.what();
     }
 }
 
-void MachineDocument::Take(SaveRequest request)
+void CMachineDocument::Take(SaveRequest request)
 {
-    Machine edited = m_host->CurrentMachine();
+    Machine edited = m_pHost->CurrentMachine();
     if (request == SaveRequest::Parameters)
         m_accepted = std::move(edited);
     else

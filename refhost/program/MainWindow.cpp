@@ -12,7 +12,7 @@ namespace refhost
 namespace
 {
 
-constexpr UINT kOpenEditor = WM_APP;
+constexpr UINT OPEN_EDITOR = WM_APP;
 
 std::wstring TimeText(const SYSTEMTIME& time)
 {
@@ -36,19 +36,19 @@ std::wstring PickMachineFile(HWND owner)
 
 } // namespace
 
-MainWindow::MainWindow(Start start) : m_start(std::move(start)) {}
+CMainWindow::CMainWindow(Start start) : m_start(std::move(start)) {}
 
-bool MainWindow::Run()
+bool CMainWindow::Run()
 {
     if (CreateDialogParamW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(IDD_MAIN), nullptr, DialogProc,
                            reinterpret_cast<LPARAM>(this)) == nullptr)
         return false;
-    ShowWindow(m_window, SW_SHOWNORMAL);
+    ShowWindow(m_hWindow, SW_SHOWNORMAL);
     if (m_start.open != nullptr)
-        PostMessageW(m_window, kOpenEditor, 0, 0);
+        PostMessageW(m_hWindow, OPEN_EDITOR, 0, 0);
     MSG message;
     while (GetMessageW(&message, nullptr, 0, 0) > 0)
-        if (!IsDialogMessageW(m_window, &message))
+        if (!IsDialogMessageW(m_hWindow, &message))
         {
             TranslateMessage(&message);
             DispatchMessageW(&message);
@@ -56,18 +56,18 @@ bool MainWindow::Run()
     return true;
 }
 
-INT_PTR CALLBACK MainWindow::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
+INT_PTR CALLBACK CMainWindow::DialogProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_INITDIALOG)
     {
         SetWindowLongPtrW(window, DWLP_USER, lParam);
-        reinterpret_cast<MainWindow*>(lParam)->m_window = window;
+        reinterpret_cast<CMainWindow*>(lParam)->m_hWindow = window;
     }
-    auto* self = reinterpret_cast<MainWindow*>(GetWindowLongPtrW(window, DWLP_USER));
+    auto* self = reinterpret_cast<CMainWindow*>(GetWindowLongPtrW(window, DWLP_USER));
     return self == nullptr ? FALSE : self->OnMessage(message, wParam);
 }
 
-INT_PTR MainWindow::OnMessage(UINT message, WPARAM wParam)
+INT_PTR CMainWindow::OnMessage(UINT message, WPARAM wParam)
 {
     switch (message)
     {
@@ -78,7 +78,7 @@ INT_PTR MainWindow::OnMessage(UINT message, WPARAM wParam)
         if (HIWORD(wParam) == BN_CLICKED)
             OnCommand(LOWORD(wParam));
         return TRUE;
-    case kOpenEditor:
+    case OPEN_EDITOR:
         Edit(*m_start.open);
         return TRUE;
     case WM_CLOSE:
@@ -92,54 +92,54 @@ INT_PTR MainWindow::OnMessage(UINT message, WPARAM wParam)
     }
 }
 
-void MainWindow::OnInit()
+void CMainWindow::OnInit()
 {
     FillLanguages();
     ShowDocument();
-    CentreOnScreen(m_window);
-    const HWND first = GetDlgItem(m_window, kEditors.front().button);
-    SetFocus(IsWindowEnabled(first) ? first : GetDlgItem(m_window, IDC_OPEN_MACHINE));
+    CentreOnScreen(m_hWindow);
+    const HWND first = GetDlgItem(m_hWindow, EDITORS.front().button);
+    SetFocus(IsWindowEnabled(first) ? first : GetDlgItem(m_hWindow, IDC_OPEN_MACHINE));
 }
 
-void MainWindow::OnCommand(int id)
+void CMainWindow::OnCommand(int id)
 {
     if (id == IDCANCEL)
         OnClose();
     if (id == IDC_OPEN_MACHINE)
         OnOpenMachine();
-    for (const Editor& editor : kEditors)
+    for (const Editor& editor : EDITORS)
         if (editor.button == id)
             Edit(editor);
 }
 
-void MainWindow::OnOpenMachine()
+void CMainWindow::OnOpenMachine()
 {
     if (!MayDropDocument())
         return;
-    const std::wstring path = PickMachineFile(m_window);
+    const std::wstring path = PickMachineFile(m_hWindow);
     if (!path.empty())
         Load(path);
 }
 
-void MainWindow::OnClose()
+void CMainWindow::OnClose()
 {
-    if (!m_editing && MayDropDocument())
-        DestroyWindow(m_window);
+    if (!m_bEditing && MayDropDocument())
+        DestroyWindow(m_hWindow);
 }
 
-void MainWindow::FillLanguages()
+void CMainWindow::FillLanguages()
 {
     for (const std::wstring& tag : m_start.languages)
-        SendDlgItemMessageW(m_window, IDC_LANGUAGE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(tag.c_str()));
-    SendDlgItemMessageW(m_window, IDC_LANGUAGE, CB_SELECTSTRING, static_cast<WPARAM>(-1),
+        SendDlgItemMessageW(m_hWindow, IDC_LANGUAGE, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(tag.c_str()));
+    SendDlgItemMessageW(m_hWindow, IDC_LANGUAGE, CB_SELECTSTRING, static_cast<WPARAM>(-1),
                         reinterpret_cast<LPARAM>(m_start.language.c_str()));
 }
 
-void MainWindow::ShowDocument()
+void CMainWindow::ShowDocument()
 {
     std::wstring path = L"(no machine file is open)";
     std::wstring name;
-    if (const MachineDocument* document = m_start.document.get())
+    if (const CMachineDocument* document = m_start.document.get())
     {
         const Machine& machine = document->Accepted();
         path = document->Path();
@@ -147,80 +147,80 @@ void MainWindow::ShowDocument()
         // Names go out in the thread's code page, so it has to be the machine's.
         SetThreadLocale(*LocaleOfCodePage(machine.codePage));
     }
-    SetDlgItemTextW(m_window, IDC_MACHINE_FILE, path.c_str());
-    SetDlgItemTextW(m_window, IDC_MACHINE_NAME, name.c_str());
+    SetDlgItemTextW(m_hWindow, IDC_MACHINE_FILE, path.c_str());
+    SetDlgItemTextW(m_hWindow, IDC_MACHINE_NAME, name.c_str());
     ShowStatus();
     UpdateButtons();
 }
 
-void MainWindow::ShowStatus()
+void CMainWindow::ShowStatus()
 {
     std::wstring status = L"Nothing saved yet.";
     if (m_start.editors == nullptr)
         status = L"Quorvane.dll cannot be loaded from the program's folder.";
-    else if (m_start.document && m_start.document->LastSave() == MachineDocument::SaveState::Saved)
+    else if (m_start.document && m_start.document->LastSave() == CMachineDocument::SaveState::Saved)
         status = L"Saved at " + TimeText(m_start.document->SaveTime()) + L".";
-    else if (m_start.document && m_start.document->LastSave() == MachineDocument::SaveState::Failed)
+    else if (m_start.document && m_start.document->LastSave() == CMachineDocument::SaveState::Failed)
         status = L"Not saved: " + WideFromUtf8(m_start.document->SaveError());
-    SetDlgItemTextW(m_window, IDC_STATUS, status.c_str());
+    SetDlgItemTextW(m_hWindow, IDC_STATUS, status.c_str());
 }
 
-void MainWindow::UpdateButtons()
+void CMainWindow::UpdateButtons()
 {
-    for (const Editor& editor : kEditors)
-        EnableWindow(GetDlgItem(m_window, editor.button), CanEdit());
+    for (const Editor& editor : EDITORS)
+        EnableWindow(GetDlgItem(m_hWindow, editor.button), CanEdit());
 }
 
-bool MainWindow::CanEdit() const
+bool CMainWindow::CanEdit() const
 {
-    return m_start.editors != nullptr && m_start.document != nullptr && !m_editing;
+    return m_start.editors != nullptr && m_start.document != nullptr && !m_bEditing;
 }
 
-void MainWindow::Load(const std::wstring& path)
+void CMainWindow::Load(const std::wstring& path)
 {
     try
     {
-        m_start.document = std::make_unique<MachineDocument>(path);
+        m_start.document = std::make_unique<CMachineDocument>(path);
         ShowDocument();
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
         Ask(WideFromUtf8(error.what()), MB_OK | MB_ICONERROR);
     }
 }
 
-void MainWindow::Edit(const Editor& editor)
+void CMainWindow::Edit(const Editor& editor)
 {
     if (!CanEdit())
         return;
-    m_editing = true;
+    m_bEditing = true;
     const std::wstring languageDir = SelectedLanguageDir();
     m_start.document->Edit([&](IHostData* data, IHostControl* control) {
         (m_start.editors->*editor.run)(data, control, languageDir.c_str());
     });
-    m_editing = false;
+    m_bEditing = false;
     ShowStatus();
-    if (m_start.document->LastSave() == MachineDocument::SaveState::Failed)
+    if (m_start.document->LastSave() == CMachineDocument::SaveState::Failed)
         Ask(L"The changes could not be saved.\n\n" + WideFromUtf8(m_start.document->SaveError()), MB_OK | MB_ICONERROR);
 }
 
-bool MainWindow::MayDropDocument()
+bool CMainWindow::MayDropDocument()
 {
-    if (!m_start.document || m_start.document->LastSave() != MachineDocument::SaveState::Failed)
+    if (!m_start.document || m_start.document->LastSave() != CMachineDocument::SaveState::Failed)
         return true;
     return Ask(L"The last changes are not in the machine file. Drop them?", MB_YESNO | MB_ICONWARNING) == IDYES;
 }
 
-std::wstring MainWindow::SelectedLanguageDir() const
+std::wstring CMainWindow::SelectedLanguageDir() const
 {
     wchar_t tag[MAX_PATH] = {};
-    GetDlgItemTextW(m_window, IDC_LANGUAGE, tag, MAX_PATH);
+    GetDlgItemTextW(m_hWindow, IDC_LANGUAGE, tag, MAX_PATH);
     return m_start.languageDir + L"\\" + tag;
 }
 
-int MainWindow::Ask(const std::wstring& text, UINT type) const
+int CMainWindow::Ask(const std::wstring& text, UINT type) const
 {
-    return MessageBoxW(m_window, text.c_str(), kProgramTitle, type);
+    return MessageBoxW(m_hWindow, text.c_str(), PROGRAM_TITLE, type);
 }
 
 } // namespace refhost

@@ -13,10 +13,10 @@
 namespace refhost
 {
 
-/// What the program was started with, checked.
+// What the program was started with, checked.
 struct Start
 {
-    std::unique_ptr<MachineDocument> document; // may be null
+    std::unique_ptr<CMachineDocument> document; // may be null
     std::wstring languageDir;
     std::vector<std::wstring> languages;
     std::wstring language;
@@ -24,12 +24,12 @@ struct Start
     IQuorvane* editors = nullptr; // null when the library cannot be used
 };
 
-class MainWindow
+class CMainWindow
 {
 public:
-    explicit MainWindow(Start start);
+    explicit CMainWindow(Start start);
 
-    /// Shows the window and runs until it is closed. False when no window can be shown.
+    // Shows the window and runs until it is closed. False when no window can be shown.
     bool Run();
 
 private:
@@ -52,8 +52,8 @@ private:
     int Ask(const std::wstring& text, UINT type) const;
 
     Start m_start;
-    HWND m_window = nullptr;
-    bool m_editing = false;
+    HWND m_hWindow = nullptr;
+    bool m_bEditing = false;
 };
 
 } // namespace refhost

@@ -17,8 +17,8 @@ namespace refhost
 namespace
 {
 
-constexpr int kFailed = 1;
-constexpr int kBadCommandLine = 2;
+constexpr int EXIT_FAILED = 1;
+constexpr int EXIT_BAD_COMMAND_LINE = 2;
 
 std::vector<std::wstring> Arguments()
 {
@@ -43,8 +43,8 @@ void ChooseLanguage(Start& start, const std::wstring& wanted)
         return std::find(start.languages.begin(), start.languages.end(), tag) != start.languages.end();
     };
     if (!wanted.empty() && !offered(wanted))
-        throw CommandLineError("There is no language \"" + Utf8FromWide(wanted) + "\" in " +
-                               Utf8FromWide(start.languageDir) + ".");
+        throw CCommandLineError("There is no language \"" + Utf8FromWide(wanted) + "\" in " +
+                                Utf8FromWide(start.languageDir) + ".");
     if (!wanted.empty())
         start.language = wanted;
     else if (!start.languages.empty())
@@ -58,7 +58,7 @@ Start PrepareStart(const CommandLine& line, const std::wstring& folder)
     start.open = line.open;
     ChooseLanguage(start, line.language);
     if (!line.machine.empty())
-        start.document = std::make_unique<MachineDocument>(line.machine);
+        start.document = std::make_unique<CMachineDocument>(line.machine);
     return start;
 }
 
@@ -73,12 +73,12 @@ int RunProgram()
     const CommandLine line = ParseCommandLine(Arguments());
     const std::wstring folder = ProgramFolder();
     Start start = PrepareStart(line, folder);
-    const EditorLibrary library((folder + L"\\Quorvane.dll").c_str());
+    const CEditorLibrary library((folder + L"\\Quorvane.dll").c_str());
     start.editors = library.Editors();
     if (start.open != nullptr && start.editors == nullptr)
-        return Fail(kFailed, L"Quorvane.dll cannot be loaded from " + folder + L".");
-    MainWindow window(std::move(start));
-    return window.Run() ? 0 : Fail(kFailed, L"The main window cannot be shown.");
+        return Fail(EXIT_FAILED, L"Quorvane.dll cannot be loaded from " + folder + L".");
+    CMainWindow window(std::move(start));
+    return window.Run() ? 0 : Fail(EXIT_FAILED, L"The main window cannot be shown.");
 }
 
 int RunAndReport()
@@ -87,13 +87,13 @@ int RunAndReport()
     {
         return RunProgram();
     }
-    catch (const CommandLineError& error)
+    catch (const CCommandLineError& error)
     {
-        return Fail(kBadCommandLine, WideFromUtf8(error.what()) + L"\n\n" + kUsage);
+        return Fail(EXIT_BAD_COMMAND_LINE, WideFromUtf8(error.what()) + L"\n\n" + USAGE);
     }
     catch (const std::exception& error)
     {
-        return Fail(kFailed, WideFromUtf8(error.what()));
+        return Fail(EXIT_FAILED, WideFromUtf8(error.what()));
     }
 }
 

@@ -52,7 +52,7 @@ protected:
             ExpectToComeBack(machine);
             EXPECT_TRUE(!input.isIntact || FormatMachine(machine) == input.text);
         }
-        catch (const MachineFileError& error)
+        catch (const CMachineFileError& error)
         {
             ExpectReadable(error.what());
             EXPECT_FALSE(input.isIntact) << error.what();

@@ -33,7 +33,7 @@ public:
     std::uint32_t OutstandingConfigs() const;
 
 private:
-    refhost::Host m_host;
+    refhost::CHost m_host;
     CallLog m_log;
     HostFaults m_faults;
     std::unique_ptr<LoggedObjects> m_objects;

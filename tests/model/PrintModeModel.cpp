@@ -179,7 +179,7 @@ PrintModeModel::DataRow PrintModeModel::MakeDataRow(std::uint32_t row, refhost::
     const refhost::HeadLayout& head = m_machine.headLayouts[row];
     std::vector<std::uint8_t>& stored = mode.headDataModes;
     if (row < stored.size() && stored[row] == 0)
-        stored[row] = refhost::kNoDataMode;
+        stored[row] = refhost::NO_DATA_MODE;
     DataRow result{row, head.id, L"No", {L"No"}};
     for (std::size_t k = 1; k < head.dataModes.size(); ++k)
     {
@@ -206,8 +206,8 @@ void PrintModeModel::ChooseDataMode(std::size_t dataRow, const std::wstring& opt
     const auto row = static_cast<std::size_t>(head - m_machine.headLayouts.begin());
     std::vector<std::uint8_t>& stored = Attached()->headDataModes;
     if (row >= stored.size())
-        stored.resize(row + 1, refhost::kNoDataMode);
-    stored[row] = isNone ? refhost::kNoDataMode : static_cast<std::uint8_t>(mode - head->dataModes.begin());
+        stored.resize(row + 1, refhost::NO_DATA_MODE);
+    stored[row] = isNone ? refhost::NO_DATA_MODE : static_cast<std::uint8_t>(mode - head->dataModes.begin());
 }
 
 ConfigFields PrintModeModel::OpenedConfig() const

@@ -13,7 +13,7 @@ std::string ErrorOf(const std::vector<std::wstring>& arguments)
     {
         ParseCommandLine(arguments);
     }
-    catch (const CommandLineError& error)
+    catch (const CCommandLineError& error)
     {
         return error.what();
     }
@@ -36,7 +36,7 @@ TEST(CommandLine, OptionsComeInAnyOrder)
     EXPECT_EQ(line.machine, L"m.json");
     EXPECT_EQ(line.language, L"zh-CN");
     EXPECT_EQ(line.languageDir, L"C:\\L");
-    EXPECT_EQ(line.open, &kEditors[1]);
+    EXPECT_EQ(line.open, &EDITORS[1]);
 }
 
 TEST(CommandLine, MistakesAreNamed)

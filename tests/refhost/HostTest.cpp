@@ -19,7 +19,7 @@ protected:
         return m_data->GetConfigList()->GetAt(config)->GetMode(mode);
     }
 
-    Host m_host{DetailedMachine()};
+    CHost m_host{DetailedMachine()};
     IHostData* m_data = m_host.Data();
 };
 
@@ -251,7 +251,7 @@ TEST(LargeMachine, IsServed)
     Machine machine = DetailedMachine();
     machine.configurations[0].name.assign(10000, 'N');
     machine.xResolutions.assign(10000, "dpi");
-    Host host(machine);
+    CHost host(machine);
     EXPECT_EQ(std::string(host.Data()->GetConfigList()->GetAt(0)->GetName()).size(), 10000u);
     EXPECT_EQ(host.Data()->GetXResolutionList()->GetCount(), 10000u);
     EXPECT_STREQ(host.Data()->GetXResolutionList()->GetAt(9999)->GetName(), "dpi");

@@ -34,20 +34,20 @@ protected:
 
 TEST_F(MachineDocumentTest, SavedParametersAreInTheFileAtOnce)
 {
-    MachineDocument document(m_path);
-    EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::NothingSaved);
+    CMachineDocument document(m_path);
+    EXPECT_EQ(document.LastSave(), CMachineDocument::SaveState::NothingSaved);
     document.Edit([&](IHostData* data, IHostControl* control) {
         SetPasses(data, 16);
         EXPECT_EQ(PassesInFile(), 4);
         control->SaveParameters(2);
         EXPECT_EQ(PassesInFile(), 16);
     });
-    EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::Saved);
+    EXPECT_EQ(document.LastSave(), CMachineDocument::SaveState::Saved);
 }
 
 TEST_F(MachineDocumentTest, CancelledEditIsGoneAtTheNextOne)
 {
-    MachineDocument document(m_path);
+    CMachineDocument document(m_path);
     document.Edit([](IHostData* data, IHostControl*) { SetPasses(data, 16); });
     document.Edit([](IHostData* data, IHostControl* control) {
         EXPECT_EQ(data->GetConfigList()->GetAt(0)->GetMode(0)->GetPassCount(), 4);
@@ -58,7 +58,7 @@ TEST_F(MachineDocumentTest, CancelledEditIsGoneAtTheNextOne)
 
 TEST_F(MachineDocumentTest, CustomEclosionsAreSavedAlone)
 {
-    MachineDocument document(m_path);
+    CMachineDocument document(m_path);
     document.Edit([](IHostData* data, IHostControl* control) {
         SetPasses(data, 16);
         data->GetCustomEclosionSet()->GetEclosion(0)->SetRange(33);
@@ -70,19 +70,19 @@ TEST_F(MachineDocumentTest, CustomEclosionsAreSavedAlone)
 
 TEST_F(MachineDocumentTest, FailedSaveKeepsTheChangesForTheNextOne)
 {
-    MachineDocument document(m_path);
+    CMachineDocument document(m_path);
     SetFileAttributesW(m_path.c_str(), FILE_ATTRIBUTE_READONLY);
     document.Edit([](IHostData* data, IHostControl* control) {
         SetPasses(data, 16);
         control->SaveParameters(2);
     });
-    EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::Failed);
+    EXPECT_EQ(document.LastSave(), CMachineDocument::SaveState::Failed);
     EXPECT_NE(document.SaveError().find("machine.json"), std::string::npos);
     EXPECT_EQ(PassesInFile(), 4);
 
     SetFileAttributesW(m_path.c_str(), FILE_ATTRIBUTE_NORMAL);
     document.Edit([](IHostData*, IHostControl* control) { control->SaveParameters(2); });
-    EXPECT_EQ(document.LastSave(), MachineDocument::SaveState::Saved);
+    EXPECT_EQ(document.LastSave(), CMachineDocument::SaveState::Saved);
     EXPECT_EQ(PassesInFile(), 16);
 }
 
@@ -91,7 +91,7 @@ TEST_F(MachineDocumentTest, RelativePathIsMadeWhole)
     wchar_t before[MAX_PATH] = {};
     GetCurrentDirectoryW(MAX_PATH, before);
     SetCurrentDirectoryW(m_folder.PathOf(L"").c_str());
-    const MachineDocument document(L"machine.json");
+    const CMachineDocument document(L"machine.json");
     SetCurrentDirectoryW(before);
     EXPECT_EQ(LoadMachine(document.Path()).name, "Small");
 }
@@ -99,7 +99,7 @@ TEST_F(MachineDocumentTest, RelativePathIsMadeWhole)
 TEST_F(MachineDocumentTest, BrokenFileIsRefused)
 {
     WriteBytes(m_path, "{");
-    EXPECT_THROW(MachineDocument document(m_path), MachineFileError);
+    EXPECT_THROW(CMachineDocument document(m_path), CMachineFileError);
     EXPECT_EQ(ContentOf(m_path), "{");
 }
 

@@ -26,7 +26,7 @@ std::string SaveError(const Machine& machine, const std::wstring& path)
     {
         SaveMachine(machine, path);
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
         return error.what();
     }
@@ -46,7 +46,7 @@ TEST(MachineFile, RefusalNamesTheFileAndLeavesItUntouched)
         LoadMachine(path);
         FAIL() << "the file was accepted";
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
         EXPECT_NE(std::string(error.what()).find("machine.json: configurations[0].dotBits: 300"), std::string::npos)
             << error.what();
@@ -58,8 +58,8 @@ TEST(MachineFile, RefusalNamesTheFileAndLeavesItUntouched)
 TEST(MachineFile, MissingFileIsRefused)
 {
     const TempFolder folder;
-    EXPECT_THROW(LoadMachine(folder.PathOf(L"none.json")), MachineFileError);
-    EXPECT_THROW(LoadMachine(folder.PathOf(L"none\\machine.json")), MachineFileError);
+    EXPECT_THROW(LoadMachine(folder.PathOf(L"none.json")), CMachineFileError);
+    EXPECT_THROW(LoadMachine(folder.PathOf(L"none\\machine.json")), CMachineFileError);
 }
 
 TEST(MachineFile, SavedFileIsWholeAndAlone)

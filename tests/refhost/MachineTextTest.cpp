@@ -18,7 +18,7 @@ std::string RefusalOf(const std::string& text)
     {
         ParseMachine(text);
     }
-    catch (const MachineFileError& error)
+    catch (const CMachineFileError& error)
     {
         return error.what();
     }

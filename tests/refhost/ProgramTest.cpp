@@ -137,7 +137,7 @@ TEST_F(ProgramTest, MainWindowOffersTheThreeEditors)
     HostProgram program(MachineArgument(), m_errors);
     const HWND window = program.WaitForWindow();
     ASSERT_NE(window, nullptr) << ContentOf(m_errors);
-    for (const Editor& editor : kEditors)
+    for (const Editor& editor : EDITORS)
         EXPECT_TRUE(IsWindowEnabled(GetDlgItem(window, editor.button))) << editor.button;
     wchar_t status[64] = {};
     SendDlgItemMessageW(window, IDC_STATUS, WM_GETTEXT, 64, reinterpret_cast<LPARAM>(status));
@@ -151,7 +151,7 @@ TEST_F(ProgramTest, WithoutAMachineNoEditorCanBeOpened)
     HostProgram program(L"", m_errors);
     const HWND window = program.WaitForWindow();
     ASSERT_NE(window, nullptr) << ContentOf(m_errors);
-    for (const Editor& editor : kEditors)
+    for (const Editor& editor : EDITORS)
         EXPECT_FALSE(IsWindowEnabled(GetDlgItem(window, editor.button)));
     PostMessageW(window, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.WaitForEnd(), 0u);

@@ -104,7 +104,7 @@ private:
 
 void OpenClose::Cycle(bool isBusy)
 {
-    refhost::Host host(WholeMachine());
+    refhost::CHost host(WholeMachine());
     const Library::Interface quorvane = m_library.NewInterface();
     const auto script = [isBusy](Operator& op) {
         const Window dialog = op.ExpectDialogWith("an editor", [](const Window& any) { return any.Has(IDC_LIST_CFG); });

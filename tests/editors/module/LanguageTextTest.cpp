@@ -179,7 +179,7 @@ TEST_F(LanguageText, OfAFolderNameLongerThanAPathIsTheDefault)
 
 TEST_F(LanguageText, OfANullFolderIsTheDefault)
 {
-    refhost::Host host(m_machine);
+    refhost::CHost host(m_machine);
     const Library::Interface editors = Library::Loaded().NewInterface();
     const auto operation = [&] { return editors->EditPrintModes(host.Data(), host.Control(), nullptr); };
     const auto script = [](Operator& op) {

@@ -103,7 +103,7 @@ TEST(ModuleLoading, EveryRunRaisesTheLoadCountByOne)
     {
         const Library library;
         const Library::Interface editors = library.NewInterface();
-        refhost::Host host(PrintModeMachine());
+        refhost::CHost host(PrintModeMachine());
         for (int i = 0; i < 3; ++i)
             RunEditor([&] { return editors->EditPrintModes(host.Data(), host.Control(), L""); },
                       [](Operator& op) { PrintModeEditor(op, op.ExpectDialog(kEditorCaption)).Cancel(); });

@@ -359,7 +359,7 @@ void TakeAsShown(refhost::PrintMode& mode)
     const std::set<int> offered = {1, 2, 3, 4, 6, 8, 12, 16};
     if (offered.count(mode.passCount) == 0)
         mode.passCount = 1;
-    std::replace(mode.headDataModes.begin(), mode.headDataModes.end(), std::uint8_t{0}, refhost::kNoDataMode);
+    std::replace(mode.headDataModes.begin(), mode.headDataModes.end(), std::uint8_t{0}, refhost::NO_DATA_MODE);
 }
 
 TEST_F(BadInput, WalkingThroughTheSampleMachineChangesOnlyWhatThePagesCannotShow)
