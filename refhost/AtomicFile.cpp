@@ -3,7 +3,7 @@
 #include <windows.h>
 
 #include "refhost/MachineFileError.h"
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 namespace refhost
 {
@@ -12,7 +12,7 @@ namespace
 
 constexpr LONGLONG LARGEST_FILE = 64 * 1024 * 1024;
 
-std::string SystemText(DWORD code)
+std::string ErrorText(DWORD code)
 {
     wchar_t text[512] = {};
     const DWORD length = FormatMessageW(FORMAT_MESSAGE_FROM_SYSTEM | FORMAT_MESSAGE_IGNORE_INSERTS, nullptr, code, 0,
@@ -25,7 +25,7 @@ std::string SystemText(DWORD code)
 
 [[noreturn]] void Fail(const std::string& what, const std::wstring& path, DWORD code)
 {
-    throw CMachineFileError(what + " " + Utf8FromWide(path) + ": " + SystemText(code));
+    throw CMachineFileError(what + " " + Utf8FromWide(path) + ": " + ErrorText(code));
 }
 
 class CFile

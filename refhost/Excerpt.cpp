@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 namespace refhost
 {

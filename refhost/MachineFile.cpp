@@ -3,7 +3,7 @@
 #include <new>
 
 #include "refhost/AtomicFile.h"
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 namespace refhost
 {

@@ -1,6 +1,6 @@
 #include "refhost/NarrowText.h"
 
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 namespace refhost
 {

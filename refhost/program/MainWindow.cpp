@@ -4,7 +4,7 @@
 
 #include "refhost/MachineFile.h"
 #include "refhost/NarrowText.h"
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 #include "refhost/program/Dialogs.h"
 
 namespace refhost

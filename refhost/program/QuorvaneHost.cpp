@@ -6,7 +6,7 @@
 #include <algorithm>
 
 #include "refhost/MachineFileError.h"
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 #include "refhost/program/CommandLine.h"
 #include "refhost/program/Dialogs.h"
 #include "refhost/program/LanguageFolders.h"

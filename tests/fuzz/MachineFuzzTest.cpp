@@ -4,7 +4,7 @@
 
 #include "refhost/MachineFileError.h"
 #include "refhost/MachineText.h"
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 #include "tests/fuzz/CurrentInput.h"
 #include "tests/fuzz/MachineInputs.h"
 #include "tests/fuzz/MachineValues.h"

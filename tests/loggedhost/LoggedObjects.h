@@ -4,7 +4,7 @@
 #include "tests/loggedhost/CallLog.h"
 #include "tests/loggedhost/CallText.h"
 #include "tests/loggedhost/HostFaults.h"
-#include "tests/loggedhost/HostItems.h"
+#include "tests/loggedhost/ListItems.h"
 
 #include <map>
 #include <memory>

@@ -1,4 +1,4 @@
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 #include <gtest/gtest.h>
 
@@ -21,7 +21,7 @@ UINT ThreadCodePage()
 
 } // namespace
 
-TEST(SystemText, EveryLocaleGivesTheThreadItsCodePage)
+TEST(TextConversion, EveryLocaleGivesTheThreadItsCodePage)
 {
     for (UINT codePage : {932u, 936u, 950u, 1251u, 1252u})
     {
@@ -32,7 +32,7 @@ TEST(SystemText, EveryLocaleGivesTheThreadItsCodePage)
     EXPECT_FALSE(LocaleOfCodePage(65001));
 }
 
-TEST(SystemText, NamesConvertByTheThreadsCodePage)
+TEST(TextConversion, NamesConvertByTheThreadsCodePage)
 {
     const ThreadLocale chinese(*LocaleOfCodePage(936));
     wchar_t wide[8] = {};

@@ -1,4 +1,4 @@
-#include "refhost/SystemText.h"
+#include "refhost/TextConversion.h"
 
 #include <iconv.h>
 #include <map>
