@@ -4,6 +4,7 @@
 #include <shellapi.h>
 
 #include <algorithm>
+#include <memory>
 
 #include "refhost/MachineFileError.h"
 #include "refhost/TextConversion.h"
@@ -20,13 +21,16 @@ namespace
 constexpr int EXIT_FAILED = 1;
 constexpr int EXIT_BAD_COMMAND_LINE = 2;
 
+struct LocalMemory
+{
+    void operator()(wchar_t** memory) const { LocalFree(memory); }
+};
+
 std::vector<std::wstring> Arguments()
 {
     int count = 0;
-    wchar_t** words = CommandLineToArgvW(GetCommandLineW(), &count);
-    std::vector<std::wstring> arguments(words + 1, words + count);
-    LocalFree(words);
-    return arguments;
+    const std::unique_ptr<wchar_t*, LocalMemory> words(CommandLineToArgvW(GetCommandLineW(), &count));
+    return std::vector<std::wstring>(words.get() + 1, words.get() + count);
 }
 
 std::wstring ProgramFolder()
