@@ -1,4 +1,4 @@
-#include "RawTable.h"
+#include "tests/host/RawTable.h"
 
 #include "host/Quorvane.h"
 
@@ -9,7 +9,7 @@
 namespace
 {
 
-/// A host object as another compiler may make it: results of 8 and 16 bits leave whatever was in the register above.
+// A host object as another compiler may make it: results of 8 and 16 bits leave whatever was in the register above.
 class ForeignObject
 {
 public:
@@ -35,16 +35,16 @@ private:
 
 std::uint32_t ForeignObject::s_result = 0;
 
-constexpr std::uint32_t Junk = 0xDEAD5A00u;
+constexpr std::uint32_t kJunk = 0xDEAD5A00u;
 
 TEST(NarrowResults, EightBitsUnsigned)
 {
-    EXPECT_EQ(ForeignObject(Junk | 0x84u).As<IPrintConfig>()->GetColorCount(), 0x84u);
+    EXPECT_EQ(ForeignObject(kJunk | 0x84u).As<IPrintConfig>()->GetColorCount(), 0x84u);
 }
 
 TEST(NarrowResults, EightBitsSigned)
 {
-    EXPECT_EQ(ForeignObject(Junk | 0xFFu).As<IPrintScheme>()->GetWave(), -1);
+    EXPECT_EQ(ForeignObject(kJunk | 0xFFu).As<IPrintScheme>()->GetWave(), -1);
 }
 
 TEST(NarrowResults, SixteenBits)
@@ -54,9 +54,9 @@ TEST(NarrowResults, SixteenBits)
 
 TEST(NarrowResults, BooleanIsOneByte)
 {
-    EXPECT_FALSE(ForeignObject(Junk).As<IPrintMode>()->GetDisabled());
-    EXPECT_FALSE(ForeignObject(Junk).As<ICustomEclosion>()->IsLocked());
-    EXPECT_TRUE(ForeignObject(Junk | 0x80u).As<ICustomEclosion>()->IsLocked());
+    EXPECT_FALSE(ForeignObject(kJunk).As<IPrintMode>()->GetDisabled());
+    EXPECT_FALSE(ForeignObject(kJunk).As<ICustomEclosion>()->IsLocked());
+    EXPECT_TRUE(ForeignObject(kJunk | 0x80u).As<ICustomEclosion>()->IsLocked());
 }
 
 TEST(NarrowResults, EnabledOfAConfigurationIsThirtyTwoBits)

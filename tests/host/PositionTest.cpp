@@ -1,7 +1,7 @@
-#include "RawTable.h"
-#include "Samples.h"
 #include "tables/Forwarding.h"
 #include "tables/Positions.h"
+#include "tests/host/RawTable.h"
+#include "tests/host/Samples.h"
 
 #include <gtest/gtest.h>
 

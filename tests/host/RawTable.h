@@ -6,7 +6,7 @@
 #define RAW_MEMBER_CALL
 #endif
 
-/// Calls the operation at a position of an object's table as a foreign compiler does: by number, knowing no class.
+// Calls the operation at a position of an object's table as a foreign compiler does: by number, knowing no class.
 template <typename Result, typename... Arguments>
 Result CallPosition(void* object, unsigned position, Arguments... arguments)
 {

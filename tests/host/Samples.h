@@ -5,8 +5,8 @@
 #include <string>
 #include <type_traits>
 
-/// Values that show a wrong width, a wrong sign or two exchanged arguments: the highest bit of every width is set, and
-/// neighbouring seeds differ in every byte.
+// Values that show a wrong width, a wrong sign or two exchanged arguments: the highest bit of every width is set, and
+// neighbouring seeds differ in every byte.
 template <typename Value>
 Value Sample(unsigned seed)
 {
@@ -29,7 +29,7 @@ void Describe(std::ostream& stream, Value value)
         stream << +value;
 }
 
-/// One call as text: each argument follows a blank.
+// One call as text: each argument follows a blank.
 template <typename... Arguments>
 std::string CallText(const char* name, Arguments... arguments)
 {
