@@ -260,7 +260,7 @@ TEST(RemoveConfig, LeavesTheIndicesOfOtherSchemesToTheHost)
     machine.configurations.resize(4);
     machine.factorySchemes = SchemesOf<refhost::FactoryScheme>({2, 0, 2, 3, 2});
     machine.userSchemes = SchemesOf<refhost::UserScheme>({3, 2, 1, 2});
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     SetHost(*host.Data(), *host.Control());
     RemoveConfig(2);
     const refhost::Machine left = host.CurrentMachine();

@@ -122,7 +122,7 @@ refhost::CustomEclosionSet Prepared(std::size_t count)
     refhost::Machine machine;
     machine.customEclosions.definitions.resize(count);
     machine.customEclosions.currentIndex = 1;
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     PrepareEclosionSet(*host.Data()->GetCustomEclosionSet());
     return host.CurrentMachine().customEclosions;
 }

@@ -88,12 +88,12 @@ std::string ArgumentOf(SchemeField field)
     }
 }
 
-IPrintScheme* FirstScheme(refhost::Host& host, IPrintScheme*)
+IPrintScheme* FirstScheme(refhost::CHost& host, IPrintScheme*)
 {
     return host.Data()->GetFactorySchemeList()->GetAt(0);
 }
 
-IUserScheme* FirstScheme(refhost::Host& host, IUserScheme*)
+IUserScheme* FirstScheme(refhost::CHost& host, IUserScheme*)
 {
     return host.Data()->GetUserSchemeList()->GetAt(0);
 }
@@ -143,7 +143,7 @@ TYPED_TEST(SchemeFieldsOf, ComeBackFromAHost)
     refhost::Machine machine;
     machine.factorySchemes.resize(1);
     machine.userSchemes.resize(1);
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     TypeParam& record = *FirstScheme(host, static_cast<TypeParam*>(nullptr));
     for (const FieldCase& each : FieldsOf(record))
         SetField(record, each.field, ValueFor(each.field));

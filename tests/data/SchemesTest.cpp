@@ -254,7 +254,7 @@ TEST(AddedSchemes, AreTheLastOfTheirLists)
     refhost::Machine machine;
     machine.factorySchemes.resize(4);
     machine.userSchemes.resize(2);
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     SetHost(*host.Data(), *host.Control());
     const AddedScheme<IPrintScheme> inFactory = AddFactoryScheme();
     EXPECT_EQ(inFactory.id, 4);
@@ -269,7 +269,7 @@ TEST(AddedSchemes, EndAtTheThousandthFactoryScheme)
 {
     refhost::Machine machine;
     machine.factorySchemes.resize(999);
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     SetHost(*host.Data(), *host.Control());
     EXPECT_EQ(AddFactoryScheme().id, 999);
     EXPECT_EQ(AddFactoryScheme().scheme, nullptr);
