@@ -107,6 +107,8 @@ TEST(ReadConfig, TakesEachValueFromItsGetter)
     EXPECT_EQ(values.colorCount, 4);
     EXPECT_EQ(values.dotBits, 2);
     EXPECT_TRUE(values.enabled);
+    EXPECT_EQ(config.Made(), (Calls{"GetXResolution()", "GetYResolution()", "GetColorCount()", "GetDotBits()",
+                                    "GetEnabled()", "GetName()"}));
 }
 
 TEST(ReadConfig, TakesAnyEnablingButZeroAsOne)
@@ -267,5 +269,20 @@ TEST(RemoveConfig, LeavesTheIndicesOfOtherSchemesToTheHost)
     EXPECT_EQ(left.configurations.size(), 3u);
     EXPECT_EQ(ConfigsOf(left.factorySchemes), (std::vector<int>{0, 3}));
     EXPECT_EQ(ConfigsOf(left.userSchemes), (std::vector<int>{3, 1}));
+}
+
+TEST(RemoveConfig, TakesTenThousandSchemesAlong)
+{
+    constexpr std::size_t kMany = 10'000;
+    refhost::Machine machine;
+    machine.configurations.resize(2);
+    machine.factorySchemes.resize(kMany);
+    machine.userSchemes.resize(kMany);
+    machine.userSchemes.front().configIndex = 1;
+    refhost::Host host(machine);
+    SetHost(*host.Data(), *host.Control());
+    RemoveConfig(0);
+    EXPECT_TRUE(host.CurrentMachine().factorySchemes.empty());
+    EXPECT_EQ(ConfigsOf(host.CurrentMachine().userSchemes), std::vector<int>{1});
 }
 } // namespace

@@ -164,6 +164,18 @@ TEST_F(CopyIntoUserScheme, PassesUnlimitedValuesOnAsBytes)
         EXPECT_EQ(target.Made(setter).size(), 1u) << setter;
 }
 
+TEST_F(CopyIntoUserScheme, PassesValuesAtTheirLimitsOn)
+{
+    for (const char* getter : {"GetDotMode", "GetEclosionType", "GetCustomRange", "GetLampLL", "GetInkCut(31)"})
+        factorySource.Give(getter, 255);
+    factorySource.Give("GetCustomEclosionId", 0xFFFFFFFF);
+    factorySource.Give("GetInkMultiple(15)", 65535);
+    CopySchemeInto(target, 3);
+    for (const char* setter : {"SetDotMode(255)", "SetEclosionType(255)", "SetCustomRange(255)", "SetLampLL(255)",
+                               "SetInkCut(255, 31)", "SetCustomEclosionId(4294967295)", "SetInkMultiple(65535, 15)"})
+        EXPECT_EQ(target.Made(setter).size(), 1u) << setter;
+}
+
 TEST_F(CopyIntoUserScheme, LeavesTheFactorySchemeAsItIs)
 {
     CopySchemeInto(target, 3);

@@ -73,6 +73,8 @@ TEST_F(InkChannels, AreAsManyAsThereAreRows)
     const Channels shown = InkChannelsOf(1);
     EXPECT_EQ(shown.size(), 12u);
     EXPECT_EQ(shown.back(), &other);
+    table.channels.resize(600);
+    EXPECT_EQ(InkChannelsOf(1), shown);
 }
 
 TEST_F(InkChannels, OfAnEmptyLayoutAreNone)
@@ -183,6 +185,16 @@ TEST_F(InkGroups, PassOverMissingGroupsAndChannels)
     SetChannels(first, {-1, 4});
     SetGroups({nullptr, &first});
     EXPECT_EQ(ShownRows(), (Rows{{4, &first}}));
+}
+
+TEST_F(InkGroups, OutsideTheSetupAreNotShown)
+{
+    SetChannels(first, {0});
+    SetChannels(second, {1});
+    table.Hold<IInkGroup>({&first, &second});
+    table.Give("GetGroup(600)", second);
+    SetGroups({&first});
+    EXPECT_EQ(ShownRows(), (Rows{{0, &first}}));
 }
 
 TEST_F(InkGroups, FillAtLeastSixRows)
