@@ -279,7 +279,7 @@ TEST(RemoveConfig, TakesTenThousandSchemesAlong)
     machine.factorySchemes.resize(kMany);
     machine.userSchemes.resize(kMany);
     machine.userSchemes.front().configIndex = 1;
-    refhost::Host host(machine);
+    refhost::CHost host(machine);
     SetHost(*host.Data(), *host.Control());
     RemoveConfig(0);
     EXPECT_TRUE(host.CurrentMachine().factorySchemes.empty());
