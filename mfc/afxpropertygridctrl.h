@@ -30,6 +30,7 @@ public:
                              DWORD_PTR data = 0);
     CMFCPropertyGridProperty(const CMFCPropertyGridProperty&) = delete;
     CMFCPropertyGridProperty& operator=(const CMFCPropertyGridProperty&) = delete;
+    ~CMFCPropertyGridProperty() = default;
 
     const CString& GetName() const { return m_strName; }
     DWORD_PTR GetData() const { return m_nData; }
@@ -58,6 +59,9 @@ private:
 class CMFCPropertyGridCtrl : public CWnd
 {
 public:
+    CMFCPropertyGridCtrl() = default;
+    CMFCPropertyGridCtrl(const CMFCPropertyGridCtrl&) = delete;
+    CMFCPropertyGridCtrl& operator=(const CMFCPropertyGridCtrl&) = delete;
     ~CMFCPropertyGridCtrl() override;
 
     BOOL Create(DWORD style, const RECT& rect, CWnd* parent, UINT id);

@@ -12,10 +12,12 @@ class CString
 {
 public:
     CString() = default;
+    // NOLINTBEGIN(google-explicit-constructor): texts and strings stand for each other in the framework.
     CString(const wchar_t* text) : m_strText(text ? text : L"") {}
     CString(const std::wstring& text) : m_strText(text) {}
 
     operator const wchar_t*() const { return m_strText.c_str(); }
+    // NOLINTEND(google-explicit-constructor)
     const wchar_t* GetString() const { return m_strText.c_str(); }
     int GetLength() const { return static_cast<int>(m_strText.size()); }
     BOOL IsEmpty() const { return m_strText.empty(); }

@@ -129,6 +129,8 @@ class CDialog : public CWnd
 public:
     // The template is looked up when the dialog runs, under the resource handle that is current then.
     explicit CDialog(UINT templateId, CWnd* parent = nullptr) : m_nTemplateId(templateId), m_pParent(parent) {}
+    CDialog(const CDialog&) = delete;
+    CDialog& operator=(const CDialog&) = delete;
     ~CDialog() override;
 
     // The value given to EndDialog; -1 when the dialog could not be created or died with its owner.
@@ -265,6 +267,8 @@ class CPaintDC : public CDC
 {
 public:
     explicit CPaintDC(CWnd* window) : m_hWnd(window->m_hWnd) { m_hDC = ::BeginPaint(m_hWnd, &m_paint); }
+    CPaintDC(const CPaintDC&) = delete;
+    CPaintDC& operator=(const CPaintDC&) = delete;
     ~CPaintDC() { ::EndPaint(m_hWnd, &m_paint); }
 
 private:
