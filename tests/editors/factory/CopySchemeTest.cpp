@@ -105,22 +105,6 @@ TEST_F(CopyScheme, MakesOneSchemeForEachChosenConfiguration)
     });
 }
 
-TEST_F(CopyScheme, CopiesEveryValue)
-{
-    Run([](FactoryEditor& editor) {
-        editor.CopyTo({2}, kBanner);
-        editor.Cancel();
-    });
-    const refhost::FactoryScheme copy = Factory(4);
-    Banner().name = "720X1200_Copy";
-    Banner().configIndex = 2;
-    EXPECT_EQ(Calls(StoredScheme("x", copy)), Calls(StoredScheme("x", Banner())));
-    EXPECT_EQ(copy.configIndex, 2);
-    EXPECT_EQ(copy.customEclosionId, Banner().customEclosionId);
-    EXPECT_EQ(copy.inkMultiple, Banner().inkMultiple);
-    EXPECT_EQ(copy.inkCut, Banner().inkCut);
-}
-
 TEST_F(CopyScheme, CopiesInTheOrderOfTheConfigurations)
 {
     m_machine.configurations.push_back(Config("Last"));

@@ -86,55 +86,6 @@ TEST_F(CopySchemeIntoUser, PresetIsCopiedValueByValueInOrder)
     EXPECT_EQ(Changes(), kAdded + CopyOf(Sign(), 3) + kNamed);
 }
 
-TEST_F(CopySchemeIntoUser, EveryValueOfThePresetArrives)
-{
-    AddFrom(1);
-    const refhost::UserScheme copy = User(3);
-    EXPECT_EQ(copy.configIndex, 0);
-    EXPECT_EQ(copy.baseScheme, 3);
-    EXPECT_EQ(copy.speed, Sign().speed);
-    EXPECT_EQ(copy.customEclosionId, 70003u);
-    EXPECT_EQ(copy.inkMultiple, Sign().inkMultiple);
-    EXPECT_EQ(copy.inkCut, Sign().inkCut);
-    EXPECT_EQ(copy.channel, Sign().channel);
-    EXPECT_EQ(copy.name, "Fresh");
-}
-
-TEST_F(CopySchemeIntoUser, ValuesAtTheirLimitsAreCopiedUnchanged)
-{
-    Poster().dotMode = Poster().eclosionType = Poster().customRange = Poster().channel = 255;
-    Poster().customEclosionId = 0x7FFFFFFF;
-    Poster().inkMultiple.fill(65535);
-    Poster().inkCut.fill(255);
-    Poster().lampLL = 7;
-    Poster().smallFormatOffset = 65535;
-    AddFrom(0);
-    EXPECT_EQ(Changes(), kAdded + CopyOf(Poster(), 0) + kNamed);
-}
-
-TEST_F(CopySchemeIntoUser, UnlimitedValuesArePassedAsBytes)
-{
-    Poster().speed = Poster().direction = Poster().material = -1;
-    AddFrom(0);
-    EXPECT_EQ(ChangesWith("(255)"),
-              (Calls{NewCall("SetSpeed", 255), NewCall("SetDirection", 255), NewCall("SetMaterial", 255)}));
-    EXPECT_EQ(User(3).speed, -1);
-}
-
-TEST_F(CopySchemeIntoUser, BaseSchemeIsTheLowByteOfTheSource)
-{
-    m_machine.factorySchemes.resize(1000, FactorySchemeOf(2));
-    m_machine.factorySchemes[999].configIndex = 0;
-    AddFrom(2);
-    EXPECT_EQ(ChangesWith("SetBaseScheme"), Calls{kNew + "SetBaseScheme(231)"});
-}
-
-TEST_F(CopySchemeIntoUser, ReadsThePresetAndNeverWritesIt)
-{
-    AddFrom(0);
-    EXPECT_EQ(ChangesWith("IPrintScheme"), Calls());
-}
-
 TEST_F(CopySchemeIntoUser, UserSchemeIsCopiedAsABlock)
 {
     AddFrom(3);
@@ -184,21 +135,5 @@ TEST_F(CopySchemeIntoUser, PresetsSmallFormatIsNotCopiedButShown)
 TEST_F(CopySchemeIntoUser, PresetThatTheHostHasLostLeavesItsDefaults)
 {
     EXPECT_EQ(AddFromLost(kSign, [](IHostData& data) { data.GetFactorySchemeList()->RemoveAt(3); }), kAdded + kNamed);
-}
-
-TEST_F(CopySchemeIntoUser, UserSchemeThatTheHostHasLostLeavesItsDefaults)
-{
-    const auto removeAll = [](IHostData& data) {
-        for (std::uint32_t count = data.GetUserSchemeList()->GetCount(); count > 0; --count)
-            data.GetUserSchemeList()->RemoveAt(count - 1);
-    };
-    EXPECT_EQ(AddFromLost(kYours, removeAll), kAdded + kNamed);
-}
-
-TEST_F(CopySchemeIntoUser, UserSchemeWithoutABlockLeavesTheHostsDefaults)
-{
-    m_faults.failing = {"IUserScheme[0].GetParams()"};
-    AddFrom(2);
-    EXPECT_EQ(Changes(), kAdded + kNamed);
 }
 } // namespace
