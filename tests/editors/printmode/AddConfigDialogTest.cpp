@@ -90,21 +90,6 @@ TEST_F(AddConfigDialog, KeepsItsTemplateTextsWhateverTheLanguage)
     });
 }
 
-TEST_F(AddConfigDialog, ClearedNameIsBuiltFromTheResolutions)
-{
-    EXPECT_EQ(AddedName(L"", L"720", L"720", L"0", L"0"), "[720 X 720]");
-}
-
-TEST_F(AddConfigDialog, BuiltNameTellsTheColoursThatAreNotNone)
-{
-    EXPECT_EQ(AddedName(L"", L"1440", L"720", L"4", L"0"), "[1440 X 720][4 C]");
-}
-
-TEST_F(AddConfigDialog, BuiltNameTellsTheDotBitsThatAreNotNone)
-{
-    EXPECT_EQ(AddedName(L"", L"600", L"1200", L"0", L"2"), "[600 X 1200][2 B]");
-}
-
 TEST_F(AddConfigDialog, NameOfBlanksIsBuiltToo)
 {
     EXPECT_EQ(AddedName(L"   ", L"600", L"1200", L"6", L"2"), "[600 X 1200][6 C][2 B]");
@@ -212,24 +197,6 @@ TEST_F(AddConfigDialog, RenamingToBlanksBuildsTheName)
         dialog.Type(IDC_EDIT_CFG_NAME, L" ");
         editor.Confirm(dialog);
         EXPECT_EQ(ChangesWith("IPrintConfig"), Calls{"IPrintConfig[0].SetName(\"[720 X 1200][4 C][2 B]\")"});
-    });
-}
-
-TEST_F(AddConfigDialog, ReadsTheConfigurationInOrder)
-{
-    Run([this](PrintModeEditor& editor) {
-        editor.Configs().ClickRow(0);
-        Host().Log().Clear();
-        const ConfigDialog dialog = editor.OpenRename(0);
-        Calls reads;
-        for (const std::string& call : Host().Log().Everything())
-            if (call.find("IPrintConfig[0].Get") == 0 && call.find("Mode") == std::string::npos)
-                reads.push_back(call);
-        EXPECT_EQ(reads, (Calls{"IPrintConfig[0].GetXResolution()", "IPrintConfig[0].GetYResolution()",
-                                "IPrintConfig[0].GetColorCount()", "IPrintConfig[0].GetDotBits()",
-                                "IPrintConfig[0].GetEnabled()", "IPrintConfig[0].GetName()"}));
-        editor.Confirm(dialog, IDCANCEL);
-        editor.Cancel();
     });
 }
 

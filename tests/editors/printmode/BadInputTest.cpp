@@ -334,25 +334,6 @@ TEST_F(BadInput, TenThousandDataModesAreOffered)
     EXPECT_EQ(Changes(), Calls{"IPrintMode[0.0].SetHeadDataMode(254, 0)"});
 }
 
-TEST_F(BadInput, TenThousandSchemesGoWithTheirConfiguration)
-{
-    m_machine.factorySchemes.assign(kMany, FactorySchemeOf(0));
-    m_machine.userSchemes.assign(kMany, UserSchemeOf(0));
-    m_machine.userSchemes.front() = UserSchemeOf(1);
-    Look([](PrintModeEditor& editor) { editor.Press(IDC_BTN_DEL_CFG); });
-    EXPECT_TRUE(Machine().factorySchemes.empty());
-    EXPECT_EQ(Machine().userSchemes.size(), 1u);
-}
-
-TEST_F(BadInput, BoundaryValuesOfAConfigurationAreShown)
-{
-    m_machine.configurations[0].xResolution = 65535;
-    m_machine.configurations[0].yResolution = 65535;
-    m_machine.configurations[0].colorCount = 255;
-    m_machine.configurations[0].dotBits = 255;
-    Look([](PrintModeEditor& editor) { EXPECT_EQ(editor.Configs().Row(0), L"Fast [65535X65535][255C][255B]"); });
-}
-
 // What stays when a mode was shown and stored: a pass count that is not offered becomes one, and a data mode of 0 none.
 void TakeAsShown(refhost::PrintMode& mode)
 {
@@ -425,5 +406,4 @@ TEST_F(BadInput, NoDataModeIsChangedWhileTheHostSaves)
     });
     EXPECT_EQ(Changes().back(), "IHostControl.SaveParameters(2)");
 }
-
 } // namespace

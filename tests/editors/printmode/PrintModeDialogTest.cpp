@@ -222,17 +222,6 @@ TEST_F(PrintModeDialog, AddedConfigurationsNameIsUnreadableUntilTheListIsRefille
     });
 }
 
-TEST_F(PrintModeDialog, AddedConfigurationsNameOfAnOddLengthEndsInItsLastByteAlone)
-{
-    Run([](PrintModeEditor& editor) {
-        const ConfigDialog dialog = editor.OpenAddConfig();
-        dialog.Type(IDC_EDIT_CFG_NAME, L"Odd");
-        editor.Confirm(dialog);
-        EXPECT_EQ(editor.Configs().Row(3), L"\x644F\x0064 [720X720][0C][0B]");
-        editor.Cancel();
-    });
-}
-
 TEST_F(PrintModeDialog, AddedConfigurationIsReadableWhenTheEditorIsOpenedAgain)
 {
     Run([](PrintModeEditor& editor) {
@@ -474,16 +463,6 @@ TEST_F(PrintModeDialog, FirstModeOfAConfigurationEnablesTheModeButtons)
         EXPECT_EQ(editor.Modes().Rows(), Texts{L"Draft-1"});
         for (int id : {IDC_BTN_DEL_CFG, IDC_BTN_DEL_MODE, IDC_BTN_MODE_UP, IDC_BTN_MODE_DOWN})
             EXPECT_TRUE(editor.IsEnabled(id)) << id;
-        editor.Cancel();
-    });
-}
-
-TEST_F(PrintModeDialog, AddedModesNameIsCutTo259Bytes)
-{
-    m_machine.configurations = {Config(std::string(300, 'x'))};
-    Run([this](PrintModeEditor& editor) {
-        editor.Press(IDC_BTN_ADD_MODE);
-        EXPECT_EQ(ModeNames(0), std::vector<std::string>{std::string(259, 'x')});
         editor.Cancel();
     });
 }
