@@ -253,16 +253,6 @@ TEST_F(FactoryDialog, ConfigurationWithoutSchemesShowsNone)
     EXPECT_EQ(Changes(), kFactorySchemesSaved);
 }
 
-TEST_F(FactoryDialog, SchemeOfNoConfigurationIsNeverListed)
-{
-    m_machine.factorySchemes[1].configIndex = 3;
-    m_machine.factorySchemes[3].configIndex = 255;
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(editor.Schemes().Rows(), Texts{L"Poster"});
-        editor.Cancel();
-    });
-}
-
 // Schemes hold their configuration's index in a byte.
 TEST_F(FactoryDialog, ConfigurationsThatNoSchemeCanNameHaveNone)
 {
@@ -350,33 +340,6 @@ TEST_F(FactoryDialog, AddedSchemeIsNamedAfterItsConfigurationAndTheCount)
         editor.Cancel();
     });
     EXPECT_EQ(SchemeNames().back(), "7-5");
-}
-
-TEST_F(FactoryDialog, AddedSchemeOfAConfigurationWithoutNameHasTheCountAlone)
-{
-    m_machine.configurations[0].name.clear();
-    Run([](FactoryEditor& editor) {
-        editor.Press(IDC_BTN_ADD_SCHEME);
-        EXPECT_EQ(editor.Schemes().Row(3), L"-5");
-        editor.Cancel();
-    });
-}
-
-// The wide name's bytes are read as narrow text: a character with both bytes set does not end it.
-TEST_F(FactoryDialog, AddedSchemesNameIsCutAtSixtyTwoBytes)
-{
-    std::string euros;
-    std::string bytes;
-    for (int i = 0; i < 40; ++i)
-        euros += "\x80"; // U+20AC
-    for (int i = 0; i < 31; ++i)
-        bytes += "\\xAC ";
-    m_machine.configurations[0].name = euros;
-    Run([](FactoryEditor& editor) {
-        editor.Press(IDC_BTN_ADD_SCHEME);
-        editor.Cancel();
-    });
-    EXPECT_EQ(ChangesWith("IPrintScheme[4].SetName"), Calls{"IPrintScheme[4].SetName(\"" + bytes + "\")"});
 }
 
 TEST_F(FactoryDialog, AddsToTheSelectedConfiguration)

@@ -29,16 +29,6 @@ protected:
         return source;
     }
 
-    std::wstring ProposedName()
-    {
-        std::wstring name;
-        Add(kNone, [&](UserEditor& editor, const AddUserSchemeDialog& dialog) {
-            name = dialog.Name().Text();
-            editor.Confirm(dialog, IDCANCEL);
-        });
-        return name;
-    }
-
     // The calls that name the scheme added under what was typed.
     Calls NamingOf(const std::wstring& typed)
     {
@@ -100,30 +90,6 @@ TEST_F(NewUserScheme, OffersTheSchemesOfTheSelectedConfiguration)
     });
 }
 
-TEST_F(NewUserScheme, LeavesOutMissingSchemes)
-{
-    m_faults.failing = {"ISchemeList[factory].GetAt(0)", "ISchemeList[user].GetAt(0)"};
-    Add(kNone, [](UserEditor& editor, const AddUserSchemeDialog& dialog) {
-        EXPECT_EQ(dialog.Source().Rows(), (Texts{Unconverted("Sign") + L"(preset)", L"Yours"}));
-        editor.Confirm(dialog, IDCANCEL);
-    });
-}
-
-TEST_F(NewUserScheme, LeavesOutPresetsThatNoIdCanName)
-{
-    m_machine.factorySchemes.resize(1002, FactorySchemeOf(2));
-    for (std::size_t index : {999, 1000, 1001})
-    {
-        m_machine.factorySchemes[index].configIndex = 0;
-        m_machine.factorySchemes[index].name = "P" + std::to_string(index);
-    }
-    Add(kNone, [](UserEditor& editor, const AddUserSchemeDialog& dialog) {
-        EXPECT_EQ(dialog.Source().Rows(), (Texts{Unconverted("Poster") + L"(preset)", Unconverted("Sign") + L"(preset)",
-                                                 Unconverted("P999") + L"(preset)", L"Mine", L"Yours"}));
-        editor.Confirm(dialog, IDCANCEL);
-    });
-}
-
 TEST_F(NewUserScheme, StillOffersASchemeWhoseDeletionIsPending)
 {
     Run([](UserEditor& editor) {
@@ -164,18 +130,6 @@ TEST_F(NewUserScheme, ProposesTheFirstSourceForASchemeThatWentToAnotherConfigura
         editor.Confirm(dialog, IDCANCEL);
         editor.Cancel();
     });
-}
-
-TEST_F(NewUserScheme, ProposesANameThatCountsTheUserSchemesOfAllConfigurations)
-{
-    m_machine.userSchemes.resize(5, UserSchemeOf(2));
-    EXPECT_EQ(ProposedName(), L"方案-6");
-}
-
-TEST_F(NewUserScheme, ProposesANameInTheOperatorsLanguage)
-{
-    m_language.WriteBytes("[DLG_PRINT_SCHEME]\r\nSCHEME=Scheme\r\n");
-    EXPECT_EQ(ProposedName(), L"Scheme-4");
 }
 
 TEST_F(NewUserScheme, ProposedNameCountsAddedSchemesAndThoseWithAPendingDeletion)

@@ -538,15 +538,6 @@ TEST_F(UserSchemeDialog, DoubleClickShowsTheConfigurationReadOnly)
     EXPECT_EQ(Changes(), Calls());
 }
 
-TEST_F(UserSchemeDialog, ConfigurationWithoutANameShowsItsNumbers)
-{
-    m_machine.configurations[1].name = "";
-    Run([](UserEditor& editor) {
-        EXPECT_EQ(editor.Configs().Row(1), L"[720X1200][4C][2b]");
-        editor.Cancel();
-    });
-}
-
 TEST_F(UserSchemeDialog, MissingConfigurationKeepsItsRowAndCannotBeActedOn)
 {
     m_faults.failing = {"IConfigList.GetAt(0)"};
@@ -663,17 +654,6 @@ TEST_F(UserSchemeDialog, PresetsThatNoIdCanNameAreNotListed)
         editor.SaveAndQuit();
     });
     EXPECT_EQ(Changes(), StoredMine() + kUserSchemesSaved);
-}
-
-TEST_F(UserSchemeDialog, ConfigurationsThatNoSchemeCanNameHaveNone)
-{
-    m_machine.configurations.resize(257, Config("More"));
-    Run([](UserEditor& editor) {
-        editor.Configs().ClickRow(256);
-        EXPECT_EQ(editor.Schemes().RowCount(), 0);
-        EXPECT_FALSE(editor.IsEnabled(IDC_BTN_ADD_SCHEME));
-        editor.Cancel();
-    });
 }
 
 TEST_F(UserSchemeDialog, ShowsTheTextsOfTheLanguageFile)
