@@ -158,61 +158,15 @@ TEST_F(InkCutPage, MoreThanHundredPercentIsShownAndStoredAsHundred)
     EXPECT_EQ(ChangesWith("SetInkCut").back(), "IPrintScheme[0].SetInkCut(100, 9)");
 }
 
-TEST_F(InkCutPage, MissingHostObjectsShowNoRowsAndStoreNothing)
+TEST_F(InkCutPage, MissingGroupsShowNoRowsAndStoreNothing)
 {
-    for (const char* missing : {"IDeviceState.GetActiveSetup()", "IHostData.GetDeviceState()",
-                                "IHostData.GetInkGroups()", "IInkGroupTable.GetGroup(*)", "IInkGroup[*].GetChannel(*)"})
-    {
-        m_faults.failing = {missing};
-        Run([](FactoryEditor& editor) {
-            EXPECT_EQ(ShownRows(editor), Texts());
-            editor.Apply();
-            editor.Cancel();
-        });
-        EXPECT_EQ(ChangesWith("SetInkCut"), Calls());
-    }
-}
-
-TEST_F(InkCutPage, GroupOfTheSetUpThatDoesNotExistIsLeftOut)
-{
-    m_machine.activeSetup.groups = {77, 2};
+    m_faults.failing = {"IHostData.GetInkGroups()"};
     Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor), (Texts{L"Dark", L"Dark"}));
+        EXPECT_EQ(ShownRows(editor), Texts());
+        editor.Apply();
         editor.Cancel();
     });
-}
-
-TEST_F(InkCutPage, GroupOutsideTheSetUpIsNotShown)
-{
-    m_machine.activeSetup.groups = {3};
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor), Texts{L"White"});
-        editor.Cancel();
-    });
-}
-
-TEST_F(InkCutPage, FirstGroupWithTheChannelHasTheRow)
-{
-    UseGroups({Group(5, 0, 2), Group(4, 1, 2)});
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor), (Texts{L"Group 5", L"Group 5", L"Group 4"}));
-        editor.Cancel();
-    });
-}
-
-// At least six rows are probed, more only where a group has more channels.
-TEST_F(InkCutPage, RowsBeyondTheLargestGroupAreNotProbed)
-{
-    UseGroups({Group(1, 5, 3)});
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor).size(), 1u); // the channels 6 and 7 have no row
-        editor.Cancel();
-    });
-    UseGroups({Group(1, 0, 8), Group(2, 8, 1)});
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor).size(), 8u);
-        editor.Cancel();
-    });
+    EXPECT_EQ(ChangesWith("SetInkCut"), Calls());
 }
 
 TEST_F(InkCutPage, MoreThanTwelveRowsAreCutAtTwelve)

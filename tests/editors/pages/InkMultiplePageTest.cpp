@@ -113,31 +113,6 @@ TEST_F(InkMultiplePage, LayoutThatDoesNotExistShowsNoRowsAndStoresNothing)
     });
 }
 
-TEST_F(InkMultiplePage, LayoutWithoutChannelsShowsNoRowsAndStoresNothing)
-{
-    m_machine.layouts[0].channels.clear();
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor), Texts());
-        editor.Apply();
-        editor.Cancel();
-    });
-    EXPECT_EQ(ChangesWith("SetInkMultiple"), Calls());
-}
-
-TEST_F(InkMultiplePage, NullListsShowNoRows)
-{
-    for (const char* missing : {"IHostData.GetLayoutList()", "IHostData.GetInkChannels()", "ILayoutList.GetAt(*)"})
-    {
-        m_faults.failing = {missing};
-        Run([](FactoryEditor& editor) {
-            EXPECT_EQ(ShownRows(editor), Texts());
-            editor.Apply();
-            editor.Cancel();
-        });
-        EXPECT_EQ(ChangesWith("SetInkMultiple"), Calls());
-    }
-}
-
 TEST_F(InkMultiplePage, MoreThanTwelveChannelsAreCutAtTwelve)
 {
     UseLayoutOf(20);
@@ -148,15 +123,6 @@ TEST_F(InkMultiplePage, MoreThanTwelveChannelsAreCutAtTwelve)
         editor.Cancel();
     });
     EXPECT_EQ(ChangesWith("SetInkMultiple").size(), 12u);
-}
-
-TEST_F(InkMultiplePage, MoreChannelsThanAnyArrayHasAreCutAtTwelve)
-{
-    UseLayoutOf(600);
-    Run([](FactoryEditor& editor) {
-        EXPECT_EQ(ShownRows(editor).size(), 12u);
-        editor.Cancel();
-    });
 }
 
 TEST_F(InkMultiplePage, ColourBeyondTheValuesIsPassedAsItIs)
