@@ -162,17 +162,6 @@ TEST_F(CustomEclosion, EmptySetGainsFourDefinitionsAndShowsTheFirst)
     EXPECT_EQ(Machine().customEclosions.definitions.size(), 4u);
 }
 
-TEST_F(CustomEclosion, SetOfSixKeepsThemAndProtectsTheFirstFour)
-{
-    refhost::CustomEclosion open = Definition({ModeOf({{1, 1}})});
-    open.locked = false;
-    m_machine.customEclosions.definitions.assign(6, open);
-    m_machine.customEclosions.definitions[1].locked = true;
-    RunDialog([](CustomEclosionDialog& dialog) { dialog.Cancel(); });
-    EXPECT_EQ(Changes(), (Calls{"ICustomEclosion[0].SetLocked(1)", "ICustomEclosion[2].SetLocked(1)",
-                                "ICustomEclosion[3].SetLocked(1)"}));
-}
-
 TEST_F(CustomEclosion, SetIsBroughtIntoShapeOnce)
 {
     m_machine.customEclosions.currentIndex = 3;
@@ -185,14 +174,6 @@ TEST_F(CustomEclosion, SetIsBroughtIntoShapeOnce)
         EXPECT_EQ(Changes(), Calls());
         editor.Cancel();
     });
-}
-
-TEST_F(CustomEclosion, AnotherCurrentDefinitionIsSetBackToTheFirst)
-{
-    UseDefinition(Definition({ModeOf({{1, 1}})}));
-    m_machine.customEclosions.currentIndex = 2;
-    RunDialog([](CustomEclosionDialog& dialog) { dialog.Cancel(); });
-    EXPECT_EQ(Changes(), Calls{"ICustomEclosionSet.SetCurrentIndex(0)"});
 }
 
 TEST_F(CustomEclosion, ShowsARadioForEachMode)
