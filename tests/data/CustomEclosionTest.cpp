@@ -176,9 +176,10 @@ constexpr PreviewCase kPreviews[] = {
     {{10, 20, 90, 100}, 2, 4, {40, 40, 60, 80}},
     // What an eighth leaves over stays free.
     {{0, 0, 87, 87}, 8, 8, {3, 3, 83, 83}},
-    // Odd frames and odd sizes: halves are cut off.
+    // Odd frames and odd sizes: the half of each is cut off by itself.
     {{0, 0, 25, 25}, 3, 1, {8, 11, 17, 14}},
     {{1, 1, 26, 26}, 1, 1, {12, 12, 15, 15}},
+    {{0, 0, 24, 24}, 1, 3, {11, 8, 14, 17}},
     // A frame left of and above its window.
     {{-50, -40, 31, 40}, 4, 2, {-29, -10, 11, 10}},
     // Too small for a step, or nothing to show.
