@@ -75,8 +75,8 @@ TEST_F(MachineOptions, CountUpTo1024Waveforms)
     EXPECT_EQ(WaveformsOf(0), 0);
     EXPECT_EQ(WaveformsOf(1), 1);
     EXPECT_EQ(WaveformsOf(1024), 1024);
-    EXPECT_EQ(WaveformsOf(1025), 0);
-    EXPECT_EQ(WaveformsOf(INT_MAX), 0);
+    EXPECT_EQ(WaveformsOf(1025), 1024);
+    EXPECT_EQ(WaveformsOf(INT_MAX), 1024);
 }
 
 TEST_F(MachineOptions, CountNoWaveformsBelowOne)
