@@ -21,8 +21,9 @@ endif()
 if(WIN32 AND CMAKE_SIZEOF_VOID_P EQUAL 8)
     add_link_options(-Wl,--high-entropy-va)
 endif()
-# Test programs keep their symbols for back traces.
-add_link_options($<$<AND:$<CONFIG:Release>,$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>>:-s>)
+# The library is handed out without symbols and without what nothing in it calls. Test programs keep both for back traces.
+set(handed_out $<AND:$<CONFIG:Release>,$<STREQUAL:$<TARGET_PROPERTY:TYPE>,SHARED_LIBRARY>>)
+add_link_options($<${handed_out}:-s> $<$<AND:${handed_out},$<BOOL:${WIN32}>>:-Wl,--gc-sections>)
 
 # Header-only Debian packages are reached through links: /usr/include on a cross compiler's path breaks its own headers.
 file(MAKE_DIRECTORY ${PROJECT_BINARY_DIR}/include)
