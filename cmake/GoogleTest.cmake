@@ -4,5 +4,8 @@ add_library(gtest STATIC ${googletest}/src/gtest-all.cc)
 target_compile_features(gtest PUBLIC cxx_std_17)
 target_compile_definitions(gtest PUBLIC GTEST_HAS_DEATH_TEST=0)
 target_include_directories(gtest SYSTEM PUBLIC ${googletest}/include PRIVATE ${googletest})
+if(WIN32)
+    target_compile_options(gtest PRIVATE -O0) # see quorvane_build_quickly
+endif()
 add_library(gtest_main STATIC ${googletest}/src/gtest_main.cc)
 target_link_libraries(gtest_main PUBLIC gtest)

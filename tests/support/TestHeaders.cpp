@@ -1,0 +1,1 @@
+// The build makes precompiled headers beside a source: this one.
