@@ -45,16 +45,29 @@ install_missing() {
 x64_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest nlohmann-json3-dev
     wine wine64 fonts-wine fonts-wqy-microhei libxrender1 libxcursor1 libxi6 libxrandr2 xvfb)
 
-# build_preset PRESET [TARGET...]
-build_preset() {
+# configure_preset PRESET: with a compiler cache where there is one. Two checkouts share what it holds.
+configure_preset() {
+    local launcher=${CMAKE_CXX_COMPILER_LAUNCHER:-$(command -v ccache || true)}
+    export CCACHE_BASEDIR=$project CCACHE_SLOPPINESS=pch_defines,time_macros
+    (cd "$project" && cmake --preset "$1" "-DCMAKE_C_COMPILER_LAUNCHER=$launcher" \
+        "-DCMAKE_CXX_COMPILER_LAUNCHER=$launcher" >"$build/$1-configure.log" 2>&1) ||
+        die "$(cat "$build/$1-configure.log")"
+}
+
+# build_targets PRESET [TARGET...]: of a configured build.
+build_targets() {
     local preset=$1 targets=()
     shift
     [ $# -eq 0 ] || targets=(--target "$@")
     say "Building $preset"
-    (cd "$project" && cmake --preset "$preset" >"$build/$preset-configure.log" 2>&1) ||
-        die "$(cat "$build/$preset-configure.log")"
     (cd "$project" && cmake --build --preset "$preset" "${targets[@]}" >"$build/$preset-build.log" 2>&1) ||
         die "$(grep -v '^\[' "$build/$preset-build.log")"
+}
+
+# build_preset PRESET [TARGET...]
+build_preset() {
+    configure_preset "$1"
+    build_targets "$@"
 }
 
 mkdir -p "$build"
