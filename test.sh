@@ -75,30 +75,34 @@ build_all() {
 
 can_run() { [ "$1" != x86 ] || $x86_usable; }
 
-# run_arch ARCH: on a screen of its own where windows open.
-run_arch() {
-    rm -rf "$build/$1/results"
-    mkdir -p "$build/$1/results"
+# run_lane ARCH LANE: on a screen of its own where windows open.
+run_lane() {
     if [ "$1" = native-asan ]; then
-        "$project/tools/lib/run-suite.sh" "$1" "$filter" "$seed" "$long"
+        "$project/tools/lib/run-suite.sh" "$1" "$2" "$filter" "$seed" "$long"
         return
     fi
     start_screen
     trap stop_screen EXIT
     if [ "$1" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-suite.sh x86 "$filter" "$seed" "$long"
+        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-suite.sh x86 "$2" "$filter" "$seed" "$long"
     else
-        "$project/tools/lib/run-suite.sh" "$1" "$filter" "$seed" "$long"
+        "$project/tools/lib/run-suite.sh" "$1" "$2" "$filter" "$seed" "$long"
     fi
 }
 
+# run_all: two programs of a build at once; few keep a processor busy.
 run_all() {
-    local arch suites=()
+    local arch lane suites=()
     for arch in "${arches[@]}"; do
+        rm -rf "$build/$arch/results"
         can_run "$arch" || continue
+        mkdir -p "$build/$arch/results"
+        cp "$build/$arch/tests.list" "$build/$arch/results/queue"
         say "Running the tests on $arch"
-        run_arch "$arch" &
-        suites+=($!)
+        for lane in 1 2; do
+            run_lane "$arch" "$lane" &
+            suites+=($!)
+        done
     done
     [ ${#suites[@]} -eq 0 ] || wait "${suites[@]}" || true
 }

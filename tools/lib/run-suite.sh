@@ -1,16 +1,22 @@
 #!/usr/bin/env bash
-# run-suite.sh ARCH FILTER SEED LONG: runs the test programs of a build under Wine, on the current DISPLAY, or natively
-# if ARCH is native-asan. SEED and LONG may be empty. For each program it leaves NAME.log, NAME.xml and NAME.status (the
-# exit status) in build/ARCH/results. Runs on this system and inside the i386 system.
+# run-suite.sh ARCH LANE FILTER SEED LONG: runs test programs of a build under Wine, on the current DISPLAY, or natively
+# if ARCH is native-asan; SEED and LONG may be empty. Lanes of a build share the programs in build/ARCH/results/queue. For
+# each program its lane leaves NAME.log, NAME.xml and NAME.status (its exit status) in build/ARCH/results. Runs on this
+# system and inside the i386 system alike.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/lib/wine.sh"
 
-arch=$1 filter=$2 seed=$3 long=$4
+arch=$1 lane=$2 filter=$3 seed=$4 long=$5
 results=$build/$arch/results
 # In seconds. Only a program that hangs takes that long.
 limit=1800
 [ -z "$seed" ] || export QUORVANE_SEED=$seed
 [ -z "$long" ] || { export QUORVANE_LONG=$long && limit=86400; }
+
+# next_program: takes one that no lane has taken; prints nothing where all are taken.
+next_program() {
+    (flock 9 && sed -n 1p "$results/queue" && sed -i 1d "$results/queue") 9>"$results/queue.lock"
+}
 
 # run_program NAME
 run_program() {
@@ -23,11 +29,10 @@ run_program() {
 }
 
 if [ "$arch" != native-asan ]; then
-    fresh_prefix "$arch" "$arch" wine-tests.reg
+    fresh_prefix "$arch" "$arch-$lane" wine-tests.reg
     trap end_wine EXIT
 fi
-mkdir -p "$results"
 cd "$build/$arch/bin"
-while read -r program; do
-    run_program "$program"
-done <"$build/$arch/tests.list"
+while next=$(next_program) && [ -n "$next" ]; do
+    run_program "$next"
+done
