@@ -3,6 +3,7 @@
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
 . "$project/tools/lib/x86-root.sh"
+. "$project/tools/lib/selection.sh"
 . "$project/tools/lib/report.sh"
 
 usage() {
@@ -12,7 +13,8 @@ Installs the packages that are missing, builds, and runs every test under Wine: 
 in which memory faults and undefined behaviour end the program. Tests that need no window also run natively under the
 address sanitizer.
   --arch ARCH        run one of the four only
-  --filter PATTERN   run only tests whose full name matches (a GoogleTest filter)
+  --filter PATTERN   run only tests whose full name matches (a GoogleTest filter),
+                     and leave the checks out
   --seed N           start seeded tests from this seed (default: 1; with --long a random one, which is printed)
   --long             repeat seeded tests for hours
   --help             show this text
@@ -48,15 +50,31 @@ parse_options() {
 tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
 
 install_packages() {
-    local packages=("${x64_packages[@]}" g++ clang clang-format lld python3)
+    local packages=("${x64_packages[@]}" g++ clang clang-format clang-tidy lld python3)
     ! tests_x86 || packages+=(g++-mingw-w64-i686-posix)
     ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
     install_missing "${packages[@]}"
 }
 
+# build_arch ARCH: leaves the programs to run in build/ARCH/programs.list; with a filter, those that it can concern.
+build_arch() {
+    local programs=$build/$1/programs.list targets=(all)
+    configure_preset "$1"
+    if [ "$filter" != '*' ]; then
+        programs_for "$1" "$filter" >"$programs"
+        mapfile -t targets <"$programs"
+        say "Programs that the filter can concern on $1: ${targets[*]}"
+    else
+        cp "$build/$1/tests.list" "$programs"
+        # Built so that it keeps compiling; ./bench.sh runs it.
+        [[ $1 != x64 && $1 != x86 ]] || targets+=(quorvane_bench)
+    fi
+    build_targets "$1" "${targets[@]}"
+}
+
 # The i386 system comes over the network while the compilers work.
 build_all() {
-    local arch preparing='' targets
+    local arch preparing=''
     if tests_x86; then
         x86_prepare >"$build/x86-skipped" &
         preparing=$!
@@ -64,10 +82,7 @@ build_all() {
         trap 'wait' EXIT
     fi
     for arch in "${arches[@]}"; do
-        targets=(all)
-        # Built so that it keeps compiling; ./bench.sh runs it.
-        [[ $arch != x64 && $arch != x86 ]] || targets+=(quorvane_bench)
-        build_preset "$arch" "${targets[@]}"
+        build_arch "$arch"
     done
     x86_usable=true
     [ -z "$preparing" ] || wait "$preparing" || x86_usable=false
@@ -97,7 +112,7 @@ run_all() {
         rm -rf "$build/$arch/results"
         can_run "$arch" || continue
         mkdir -p "$build/$arch/results"
-        cp "$build/$arch/tests.list" "$build/$arch/results/queue"
+        cp "$build/$arch/programs.list" "$build/$arch/results/queue"
         say "Running the tests on $arch"
         for lane in 1 2; do
             run_lane "$arch" "$lane" &
@@ -105,6 +120,26 @@ run_all() {
         done
     done
     [ ${#suites[@]} -eq 0 ] || wait "${suites[@]}" || true
+}
+
+# start_checks: while the tests wait for windows, the processors have time to compile.
+start_checks() {
+    checks=""
+    # A filter asks for tests, and no check is one.
+    [ "$filter" = '*' ] || { say "With a filter the checks are left out" && return; }
+    (count_checks >"$build/checks.log" && printf '%s %s\n' "$passed" "$failed" >"$build/checks.counts") &
+    checks=$!
+}
+
+# finish_checks: adds what they counted, and a check of what has run.
+finish_checks() {
+    local good bad
+    [ -n "$checks" ] || return 0
+    wait "$checks" || die "the checks broke off, see $build/checks.log"
+    cat "$build/checks.log"
+    read -r good bad <"$build/checks.counts"
+    passed=$((passed + good)) failed=$((failed + bad))
+    ! can_run "${arches[0]}" || count_check "selection by filters" "$project/tools/checks/check-selection.sh" "${arches[0]}"
 }
 
 # skip_x86 COUNT: what ran on x64 would have run on x86.
@@ -118,7 +153,9 @@ count_checks() {
     count_check "format of the sources" "$project/tools/checks/check-format.sh"
     count_check "keys of the language files" "$project/tools/checks/check-language-keys.sh"
     count_check "what is written from host/tables.txt" "$project/tests/tables/written-tables.py"
+    count_check "includes between folders" "$project/tools/checks/check-includes.sh"
     count_check "planted includes" "$project/tests/includes/planted-includes.sh"
+    [[ " ${arches[*]} " != *" x64 "* ]] || count_check "clang-tidy" "$project/tools/checks/check-tidy.sh"
     for arch in "${arches[@]}"; do
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
@@ -156,7 +193,8 @@ close_run() {
 parse_options "$@"
 install_packages
 build_all
+start_checks
 run_all
-count_checks
+finish_checks
 count_suites
 close_run

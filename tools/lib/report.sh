@@ -20,7 +20,7 @@ count_suite() {
     local program
     while read -r program; do
         count_program "$1" "$program" "$build/$1/results/$program"
-    done <"$build/$1/tests.list"
+    done <"$build/$1/programs.list"
 }
 
 # count_program ARCH PROGRAM FILES
