@@ -3,7 +3,6 @@
 #include "dialogs/data/CustomEclosion.h"
 #include "dialogs/data/EclosionLevel.h"
 #include "dialogs/data/Machine.h"
-#include "dialogs/data/NumberText.h"
 #include "dialogs/scheme/DlgPrintSchemeCustomEclosion.h"
 #include "frame/ModalRunner.h"
 #include "resources/resource.h"
@@ -198,8 +197,9 @@ void CDlgPrintSchemeElc::FillTypes()
         {
             if (!OffersEclosionType(type))
                 continue;
-            const std::wstring key = L"ECL" + NumberText(type) + L"_ID";
-            const int row = AddRow(m_cmbEclosionType, GetLanguageText(key.c_str(), key.c_str()), type);
+            CString key;
+            key.Format(L"ECL%d_ID", type);
+            const int row = AddRow(m_cmbEclosionType, GetLanguageText(key, key), type);
             if (type == current)
                 selected = row;
         }

@@ -20,10 +20,7 @@ class LanguageTest : public testing::Test
 protected:
     LanguageTest() { RemoveSettings(); }
 
-    ~LanguageTest() override
-    {
-        RemoveSettings();
-    }
+    ~LanguageTest() override { RemoveSettings(); }
 
     void WriteSettings(const char* bytes) const
     {
