@@ -49,6 +49,9 @@ namespace
 class CRegisteredClasses
 {
 public:
+    CRegisteredClasses() = default;
+    CRegisteredClasses(const CRegisteredClasses&) = delete;
+    CRegisteredClasses& operator=(const CRegisteredClasses&) = delete;
     ~CRegisteredClasses()
     {
         for (const std::wstring& name : m_vecNames)

@@ -18,10 +18,10 @@ CString RowText(const CWnd& wnd, UINT lengthMessage, UINT textMessage, int index
 {
     const LRESULT length = wnd.SendMessage(lengthMessage, static_cast<WPARAM>(index));
     if (length < 0)
-        return CString();
+        return {};
     std::wstring buffer(static_cast<size_t>(length) + 1, L'\0');
     wnd.SendMessage(textMessage, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(buffer.data()));
-    return CString(buffer.c_str());
+    return buffer.c_str();
 }
 } // namespace
 

@@ -68,7 +68,7 @@ bool afx::ParseFloat(const wchar_t* text, float& value)
 
 HWND CDataExchange::PrepareCtrl(int id)
 {
-    HWND control;
+    HWND control = nullptr;
     m_pDlgWnd->GetDlgItem(id, &control);
     if (!control)
         throw CNotSupportedException();

@@ -107,7 +107,7 @@ BOOL CMFCPropertyGridCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, U
         return FALSE;
     m_look.enabled = IsWindowEnabled();
     CreateChildren();
-    HFONT font = reinterpret_cast<HFONT>(parent->SendMessage(WM_GETFONT));
+    const auto font = reinterpret_cast<HFONT>(parent->SendMessage(WM_GETFONT));
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font ? font : ::GetStockObject(DEFAULT_GUI_FONT)));
     return TRUE;
 }

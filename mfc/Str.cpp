@@ -20,7 +20,7 @@ std::wstring CString::FormatV(const wchar_t* format, va_list args)
         const int length = _vsnwprintf(buffer.data(), buffer.size() - 1, format, copy);
         va_end(copy);
         if (length >= 0)
-            return std::wstring(buffer.data(), static_cast<size_t>(length));
+            return {buffer.data(), static_cast<size_t>(length)};
         buffer.resize(buffer.size() * 2);
     }
 }
