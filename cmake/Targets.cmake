@@ -12,11 +12,18 @@ function(quorvane_guard_heap target)
     endif()
 endfunction()
 
-# quorvane_build_quickly(TARGET): for what only tests run, under Wine. Who waits for a test waits for the compiler, so
-# this is not optimised, and the headers that nearly all of it includes are compiled once.
-function(quorvane_build_quickly target)
+# quorvane_unoptimised(TARGET): for what only tests run, under Wine: who waits for a test waits for the compiler.
+function(quorvane_unoptimised target)
     if(WIN32)
         target_compile_options(${target} PRIVATE $<$<COMPILE_LANGUAGE:CXX>:-O0>)
+    endif()
+endfunction()
+
+# quorvane_build_quickly(TARGET): for what only tests run and what includes GoogleTest: with the headers that nearly all
+# of it includes compiled once.
+function(quorvane_build_quickly target)
+    quorvane_unoptimised(${target})
+    if(WIN32)
         target_precompile_headers(${target} REUSE_FROM test_headers)
     endif()
 endfunction()
