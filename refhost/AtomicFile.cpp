@@ -10,7 +10,7 @@ namespace refhost
 namespace
 {
 
-constexpr LONGLONG LARGEST_FILE = 64 * 1024 * 1024;
+constexpr LONGLONG LARGEST_FILE = LONGLONG{64} * 1024 * 1024;
 
 std::string ErrorText(DWORD code)
 {

@@ -86,11 +86,11 @@ void CJsonReader::Read(const Json& json, const std::string& place, bool& value) 
 
 void CJsonReader::Read(const Json& json, const std::string& place, float& value) const
 {
-    constexpr double greatest = std::numeric_limits<float>::max();
-    constexpr double limit = 3.4028235e38; // the shortest text of the greatest float lies above it
-    if (!json.is_number() || !(json.get<double>() >= -limit && json.get<double>() <= limit))
+    constexpr double GREATEST = std::numeric_limits<float>::max();
+    constexpr double LIMIT = 3.4028235e38; // the shortest text of the greatest float lies above it
+    if (!json.is_number() || !(json.get<double>() >= -LIMIT && json.get<double>() <= LIMIT))
         Refuse(place, Shown(json) + " is no number that fits 32 bits");
-    value = static_cast<float>(std::clamp(json.get<double>(), -greatest, greatest));
+    value = static_cast<float>(std::clamp(json.get<double>(), -GREATEST, GREATEST));
 }
 
 void CJsonReader::Read(const Json& json, const std::string& place, std::string& name) const

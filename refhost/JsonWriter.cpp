@@ -54,7 +54,7 @@ std::string OneLine(const Json& json)
 
 std::string Format(const Json& json, const std::string& indent)
 {
-    const std::string line = OneLine(json);
+    std::string line = OneLine(json);
     if (!json.is_structured() || IsListOfScalars(json) || indent.size() + line.size() <= LINE_LENGTH)
         return line;
     const std::string deeper = indent + "  ";

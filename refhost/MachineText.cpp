@@ -66,7 +66,7 @@ std::string PlaceReached(std::istream& stream, std::string_view text, std::size_
 
 Json ParseJson(std::string_view text)
 {
-    constexpr std::size_t longestReason = 400; // the parser's reasons quote the file
+    constexpr std::size_t LONGEST_REASON = 400; // the parser's reasons quote the file
     std::istringstream stream{std::string(text)};
     CShapeGuard guard;
     try
@@ -78,7 +78,7 @@ Json ParseJson(std::string_view text)
     }
     catch (const Json::parse_error& error)
     {
-        throw CMachineFileError(Excerpt(error.what(), longestReason));
+        throw CMachineFileError(Excerpt(error.what(), LONGEST_REASON));
     }
     catch (const Json::out_of_range&)
     {
@@ -121,10 +121,10 @@ void CheckHeader(const Header& header)
 
 Machine ParseMachine(std::string_view text)
 {
-    constexpr std::uint32_t anyCodePage = 1252; // of the format's name, which is plain ASCII
+    constexpr std::uint32_t ANY_CODE_PAGE = 1252; // of the format's name, which is plain ASCII
     const Json json = ParseJson(text);
     Header header;
-    CJsonReader headerReader(json, std::string(), anyCodePage);
+    CJsonReader headerReader(json, std::string(), ANY_CODE_PAGE);
     Describe(headerReader, header);
     CheckHeader(header);
 

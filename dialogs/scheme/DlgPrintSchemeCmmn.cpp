@@ -10,20 +10,20 @@
 namespace
 {
 // The first row leaves the choice open; of values without a row, a negative one shows it too.
-const RowView BY_SPEED = {
+constexpr RowView BY_SPEED = {
     [](CComboBox& list, int speed) { list.SetCurSel(std::max(speed, -1) + 1); },
     BY_DATA.read,
 };
 
-const RowView BY_DIRECTION = {
+constexpr RowView BY_DIRECTION = {
     [](CComboBox& list, int direction) { list.SetCurSel(std::max(direction, 0)); },
     BY_DATA.read,
 };
 
 // Rows that the page selects while it fills the list. As required, these two are stored by position.
-const RowView BY_CHANNEL = {nullptr, BY_POSITION.read};
+constexpr RowView BY_CHANNEL = {nullptr, BY_POSITION.read};
 
-const RowView BY_WAVE = {
+constexpr RowView BY_WAVE = {
     nullptr,
     [](const CComboBox& list) -> std::optional<int> { return list.GetCurSel() - 1; },
 };
@@ -33,7 +33,7 @@ ILayout* SelectedLayout(const CComboBox& list)
     return RowObject<ILayout>(list, list.GetCurSel());
 }
 
-const RowView BY_LAYOUT = {
+constexpr RowView BY_LAYOUT = {
     nullptr,
     [](const CComboBox& list) -> std::optional<int> {
         ILayout* layout = SelectedLayout(list);

@@ -15,7 +15,7 @@ constexpr int RANGE_EDITS[] = {IDC_EDIT_RANGE_SS, IDC_EDIT_RANGE_S, IDC_EDIT_RAN
 constexpr int OTHER_CONTROLS[] = {IDC_CMB_DOT_MODE,   IDC_CMB_ELC_TYPE,        IDC_CMB_ELC_LEVEL,
                                   IDC_BTN_CUSTOM_ELC, IDC_SLIDER_CUSTOM_RANGE, IDC_CMB_HEAD_ELC_TYPE};
 
-const RowView BY_LEVEL = {
+constexpr RowView BY_LEVEL = {
     [](CComboBox& list, int code) { list.SetCurSel(LevelRowOfCode(code)); },
     [](const CComboBox& list) -> std::optional<int> { return LevelCodeOfRow(list.GetCurSel()); },
 };

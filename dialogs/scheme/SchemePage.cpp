@@ -1,15 +1,5 @@
 #include "dialogs/scheme/SchemePage.h"
 
-const RowView BY_POSITION = {
-    [](CComboBox& list, int value) { list.SetCurSel(value); },
-    [](const CComboBox& list) -> std::optional<int> { return list.GetCurSel(); },
-};
-
-const RowView BY_DATA = {
-    nullptr,
-    [](const CComboBox& list) -> std::optional<int> { return SelectedNumber(list); },
-};
-
 BOOL CSchemePage::OnInitDialog()
 {
     if (!CDialogEx::OnInitDialog())

@@ -19,9 +19,16 @@ struct RowView
 };
 
 // A row's position is the value.
-extern const RowView BY_POSITION;
+inline constexpr RowView BY_POSITION = {
+    [](CComboBox& list, int value) { list.SetCurSel(value); },
+    [](const CComboBox& list) -> std::optional<int> { return list.GetCurSel(); },
+};
+
 // A row's data is the value; the page selects the row.
-extern const RowView BY_DATA;
+inline constexpr RowView BY_DATA = {
+    nullptr,
+    [](const CComboBox& list) -> std::optional<int> { return SelectedNumber(list); },
+};
 
 // A page of the scheme editors. An editor sets m_bUserEditor once, before it creates the page; from then on it only
 // names another scheme and calls the three operations. A page keeps no record: it looks its scheme up each time.

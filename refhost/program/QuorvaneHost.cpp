@@ -30,7 +30,7 @@ std::vector<std::wstring> Arguments()
 {
     int count = 0;
     const std::unique_ptr<wchar_t*, LocalMemory> words(CommandLineToArgvW(GetCommandLineW(), &count));
-    return std::vector<std::wstring>(words.get() + 1, words.get() + count);
+    return {words.get() + 1, words.get() + count};
 }
 
 std::wstring ProgramFolder()
