@@ -1,5 +1,14 @@
 #include "dialogs/scheme/SchemePage.h"
 
+namespace
+{
+// A list that the page fills and selects itself is not loaded, nor one that the editor hides: it keeps its row.
+bool IsLoaded(const CComboBox& list, const RowView& view)
+{
+    return view.show && (list.GetStyle() & WS_VISIBLE) != 0;
+}
+} // namespace
+
 BOOL CSchemePage::OnInitDialog()
 {
     if (!CDialogEx::OnInitDialog())
@@ -51,7 +60,7 @@ void CSchemePage::LoadBound(Scheme& scheme, IPrintScheme* factory)
 {
     for (const BoundField& bound : m_vecFields)
     {
-        if (bound.list && !bound.view->show)
+        if (bound.list && !IsLoaded(*bound.list, *bound.view))
             continue;
         if (HasField(scheme, bound.field))
             ShowValue(bound, GetField(scheme, bound.field));
