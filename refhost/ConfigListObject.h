@@ -7,7 +7,7 @@
 namespace refhost
 {
 
-class CConfigListObject : public IConfigList
+class CConfigListObject final : public IConfigList
 {
 public:
     explicit CConfigListObject(const std::vector<PrintConfig>& configs);

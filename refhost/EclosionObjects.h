@@ -11,7 +11,7 @@
 namespace refhost
 {
 
-class CEclosionElementObject : public IEclosionElement
+class CEclosionElementObject final : public IEclosionElement
 {
 public:
     explicit CEclosionElementObject(const EclosionElement& element) : m_element(element) {}
@@ -27,7 +27,7 @@ private:
     EclosionElement m_element;
 };
 
-class CEclosionModeObject : public IEclosionMode
+class CEclosionModeObject final : public IEclosionMode
 {
 public:
     explicit CEclosionModeObject(const EclosionMode& mode);
@@ -43,7 +43,7 @@ private:
     CHostItems<CEclosionElementObject> m_elements;
 };
 
-class CCustomEclosionObject : public ICustomEclosion
+class CCustomEclosionObject final : public ICustomEclosion
 {
 public:
     explicit CCustomEclosionObject(const CustomEclosion& eclosion);
@@ -66,7 +66,7 @@ private:
     CHostItems<CEclosionModeObject> m_modes;
 };
 
-class CCustomEclosionSetObject : public ICustomEclosionSet
+class CCustomEclosionSetObject final : public ICustomEclosionSet
 {
 public:
     explicit CCustomEclosionSetObject(const CustomEclosionSet& set);

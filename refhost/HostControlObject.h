@@ -8,7 +8,7 @@
 namespace refhost
 {
 
-class CHostControlObject : public IHostControl
+class CHostControlObject final : public IHostControl
 {
 public:
     void OnSave(std::function<void(SaveRequest)> handler) { m_handler = std::move(handler); }

@@ -10,7 +10,7 @@
 namespace refhost
 {
 
-class CHostDataObject : public IHostData
+class CHostDataObject final : public IHostData
 {
 public:
     explicit CHostDataObject(const Machine& machine);

@@ -11,7 +11,7 @@
 namespace refhost
 {
 
-class CInkChannelObject : public IInkChannel
+class CInkChannelObject final : public IInkChannel
 {
 public:
     explicit CInkChannelObject(const InkChannel& channel) : m_channel(channel) {}
@@ -25,7 +25,7 @@ private:
     InkChannel m_channel;
 };
 
-class CInkChannelTableObject : public IInkChannelTable
+class CInkChannelTableObject final : public IInkChannelTable
 {
 public:
     CInkChannelTableObject(const std::vector<InkChannel>& channels, const std::vector<Layout>& layouts);
@@ -41,7 +41,7 @@ private:
     std::vector<Layout> m_vecLayouts;
 };
 
-class CInkGroupObject : public IInkGroup
+class CInkGroupObject final : public IInkGroup
 {
 public:
     CInkGroupObject(const InkGroup& group, const CInkChannelTableObject& channels);
@@ -58,7 +58,7 @@ private:
     const CInkChannelTableObject& m_channels;
 };
 
-class CInkGroupTableObject : public IInkGroupTable
+class CInkGroupTableObject final : public IInkGroupTable
 {
 public:
     CInkGroupTableObject(const std::vector<InkGroup>& groups, const CInkChannelTableObject& channels);

@@ -8,7 +8,7 @@
 namespace refhost
 {
 
-class CPrintConfigObject : public IPrintConfig
+class CPrintConfigObject final : public IPrintConfig
 {
 public:
     explicit CPrintConfigObject(const PrintConfig& config);

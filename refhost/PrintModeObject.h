@@ -6,7 +6,7 @@
 namespace refhost
 {
 
-class CPrintModeObject : public IPrintMode
+class CPrintModeObject final : public IPrintMode
 {
 public:
     explicit CPrintModeObject(const PrintMode& mode);

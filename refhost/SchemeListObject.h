@@ -9,7 +9,7 @@ namespace refhost
 
 // `Object` is CFactorySchemeObject or CUserSchemeObject.
 template <class Interface, class Object, class Scheme>
-class CSchemeListObject : public ISchemeList<Interface>
+class CSchemeListObject final : public ISchemeList<Interface>
 {
 public:
     explicit CSchemeListObject(const std::vector<Scheme>& schemes) : m_schemes(schemes) {}

@@ -96,7 +96,7 @@ private:
     CSchemeParamsObject m_params;
 };
 
-class CFactorySchemeObject : public CSchemeObject<IPrintScheme, FactoryScheme>
+class CFactorySchemeObject final : public CSchemeObject<IPrintScheme, FactoryScheme>
 {
 public:
     using CSchemeObject::CSchemeObject;
@@ -120,7 +120,7 @@ public:
     std::uint16_t GetSmallFormatOffset() override { return m_scheme.smallFormatOffset; }
 };
 
-class CUserSchemeObject : public CSchemeObject<IUserScheme, UserScheme>
+class CUserSchemeObject final : public CSchemeObject<IUserScheme, UserScheme>
 {
 public:
     using CSchemeObject::CSchemeObject;

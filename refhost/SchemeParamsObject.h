@@ -8,7 +8,7 @@ namespace refhost
 
 // The parameter block of a scheme of either kind. Copying takes over every value that both kinds have, the name and
 // the configuration index included.
-class CSchemeParamsObject : public ISchemeParams
+class CSchemeParamsObject final : public ISchemeParams
 {
 public:
     explicit CSchemeParamsObject(FactoryScheme& scheme);

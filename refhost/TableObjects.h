@@ -39,7 +39,7 @@ private:
     CHostItems<Item> m_items;
 };
 
-class CLayoutObject : public ILayout
+class CLayoutObject final : public ILayout
 {
 public:
     explicit CLayoutObject(const Layout& layout) : m_layout(layout) {}
@@ -55,7 +55,7 @@ using CLayoutListObject = CTableObject<ILayoutList, ILayout, CLayoutObject, Layo
 
 // An item of which editors read nothing but the name.
 template <class Interface>
-class CNamedObject : public Interface
+class CNamedObject final : public Interface
 {
 public:
     explicit CNamedObject(const std::string& name) : m_strName(name) {}
@@ -70,7 +70,7 @@ using CDataModeObject = CNamedObject<IDataMode>;
 using CXResolutionObject = CNamedObject<IXResolution>;
 using CXResolutionListObject = CTableObject<IXResolutionList, IXResolution, CXResolutionObject, std::string>;
 
-class CHeadLayoutObject : public IHeadLayout
+class CHeadLayoutObject final : public IHeadLayout
 {
 public:
     explicit CHeadLayoutObject(const HeadLayout& head);
@@ -88,7 +88,7 @@ private:
     CHostItems<CDataModeObject> m_dataModes;
 };
 
-class CHeadLayoutListObject : public CTableObject<IHeadLayoutList, IHeadLayout, CHeadLayoutObject, HeadLayout>
+class CHeadLayoutListObject final : public CTableObject<IHeadLayoutList, IHeadLayout, CHeadLayoutObject, HeadLayout>
 {
 public:
     using CTableObject::CTableObject;
@@ -100,7 +100,7 @@ private:
     std::int32_t Find(std::uint16_t id) const;
 };
 
-class CChannelSetupObject : public IChannelSetup
+class CChannelSetupObject final : public IChannelSetup
 {
 public:
     explicit CChannelSetupObject(const ChannelSetup& setup);
@@ -114,7 +114,7 @@ private:
 
 using CChannelListObject = CTableObject<IChannelList, IChannelSetup, CChannelSetupObject, ChannelSetup>;
 
-class CMaterialObject : public IMaterial
+class CMaterialObject final : public IMaterial
 {
 public:
     explicit CMaterialObject(const Material& material) : m_material(material) {}
@@ -128,7 +128,7 @@ private:
 
 using CMaterialListObject = CTableObject<IMaterialList, IMaterial, CMaterialObject, Material>;
 
-class CActiveSetupObject : public IActiveSetup
+class CActiveSetupObject final : public IActiveSetup
 {
 public:
     explicit CActiveSetupObject(const ActiveSetup& setup);
@@ -141,7 +141,7 @@ private:
     ActiveSetup m_setup;
 };
 
-class CDeviceStateObject : public IDeviceState
+class CDeviceStateObject final : public IDeviceState
 {
 public:
     explicit CDeviceStateObject(const ActiveSetup& setup) : m_setup(setup) {}
@@ -152,7 +152,7 @@ private:
     CActiveSetupObject m_setup;
 };
 
-class CParamTableObject : public IParamTable
+class CParamTableObject final : public IParamTable
 {
 public:
     explicit CParamTableObject(const ParamTable& table);
