@@ -105,16 +105,17 @@ run_lane() {
     fi
 }
 
-# run_all: two programs of a build at once; few keep a processor busy.
+# run_all: of one build two programs at once, because few keep a processor busy; of several builds one each.
 run_all() {
-    local arch lane suites=()
+    local arch lane lanes=(1) suites=()
+    [ ${#arches[@]} -gt 1 ] || lanes=(1 2)
     for arch in "${arches[@]}"; do
         rm -rf "$build/$arch/results"
         can_run "$arch" || continue
         mkdir -p "$build/$arch/results"
         cp "$build/$arch/programs.list" "$build/$arch/results/queue"
         say "Running the tests on $arch"
-        for lane in 1 2; do
+        for lane in "${lanes[@]}"; do
             run_lane "$arch" "$lane" &
             suites+=($!)
         done
