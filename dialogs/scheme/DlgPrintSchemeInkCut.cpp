@@ -66,9 +66,10 @@ void CDlgPrintSchemeInkCut::SaveToScheme()
     for (std::size_t row = 0; row < groups.size(); ++row)
     {
         const std::optional<std::uint8_t> color = groups[row] ? ColorIndexOf(*groups[row]) : std::nullopt;
+        if (!color)
+            continue;
         const auto percent = static_cast<std::uint8_t>(m_sliderInkCut[row].GetPos());
-        if (color)
-            WithScheme([=](auto& scheme) { scheme.SetInkCut(percent, *color); });
+        WithScheme([=](auto& scheme) { scheme.SetInkCut(percent, *color); });
     }
 }
 

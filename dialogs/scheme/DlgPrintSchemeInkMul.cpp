@@ -53,9 +53,10 @@ void CDlgPrintSchemeInkMul::SaveToScheme()
     for (std::size_t row = 0; row < m_vecChannels.size(); ++row)
     {
         const std::optional<std::uint8_t> color = m_vecChannels[row] ? ColorIndexOf(*m_vecChannels[row]) : std::nullopt;
+        if (!color)
+            continue;
         const auto tenths = static_cast<std::uint16_t>(SelectedNumber(m_cmbInkMul[row]) * TENTHS);
-        if (color)
-            WithScheme([=](auto& scheme) { scheme.SetInkMultiple(tenths, *color); });
+        WithScheme([=](auto& scheme) { scheme.SetInkMultiple(tenths, *color); });
     }
 }
 

@@ -41,7 +41,7 @@ void CDlgPrintSchemeMode::UpdateCtrlState()
 void CDlgPrintSchemeMode::LoadFromScheme()
 {
     IPrintScheme* scheme = BoundScheme();
-    IPrintConfig* config = ConfigAt(m_nConfigIndex);
+    IPrintConfig* config = ConfigAt(m_nConfigIndex); // asked for again: the host may have lost it since
     if (!scheme || !config)
         return;
     int selected = FillModes(*config, GetField(*scheme, SchemeField::ModeIndex));
