@@ -41,7 +41,7 @@ measures_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
 
 install_packages() {
     local packages=("${x64_packages[@]}")
-    ! measures_x86 || packages+=(g++-mingw-w64-i686-posix)
+    ! measures_x86 || packages+=("${x86_packages[@]}")
     ! measures_x86 || system_has_wine32 || packages+=(debootstrap)
     install_missing "${packages[@]}"
 }

@@ -51,7 +51,7 @@ tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
 
 install_packages() {
     local packages=("${x64_packages[@]}" g++ clang clang-format clang-tidy lld python3)
-    ! tests_x86 || packages+=(g++-mingw-w64-i686-posix)
+    ! tests_x86 || packages+=("${x86_packages[@]}")
     ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
     install_missing "${packages[@]}"
 }

@@ -42,8 +42,11 @@ install_missing() {
 }
 
 # What is needed to build, run and look at the x64 library.
-x64_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix googletest nlohmann-json3-dev
+x64_packages=(cmake ninja-build g++-mingw-w64-x86-64-posix g++-mingw-w64-x86-64-win32 googletest nlohmann-json3-dev
     wine wine64 fonts-wine fonts-wqy-microhei libxrender1 libxcursor1 libxi6 libxrandr2 xvfb)
+
+# What the x86 library needs besides.
+x86_packages=(g++-mingw-w64-i686-posix g++-mingw-w64-i686-win32)
 
 # configure_preset PRESET: with a compiler cache where there is one. Two checkouts share what it holds.
 configure_preset() {
