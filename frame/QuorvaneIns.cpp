@@ -6,8 +6,23 @@
 #include "dialogs/user/DlgPrintSchemeUser.h"
 #include "frame/ModalRunner.h"
 
+#include <exception>
+#include <memory>
+#include <new>
+
 namespace
 {
+// The run-time library keeps a record of exceptions for each thread. It ends the process where it has no memory for
+// that record, so the thread gets it before anything can be thrown.
+bool ProvideExceptionRecord()
+{
+    constexpr std::size_t plenty = 4096;
+    if (!std::unique_ptr<char[]>(new (std::nothrow) char[plenty]))
+        return false;
+    (void)std::current_exception(); // looks into the record
+    return true;
+}
+
 template <class Dialog>
 void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDir)
 {
@@ -22,6 +37,8 @@ std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languag
 {
     if (!data || !control)
         return 0;
+    if (!ProvideExceptionRecord())
+        return 1;
     try
     {
         RunEditor<Dialog>(*data, *control, languageDir);

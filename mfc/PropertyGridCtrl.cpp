@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cassert>
 
-const UINT AFX_WM_PROPERTY_CHANGED = ::RegisterWindowMessage(L"AFX_WM_PROPERTY_CHANGED");
+UINT AFX_WM_PROPERTY_CHANGED = 0;
 
 namespace
 {
@@ -95,6 +95,7 @@ CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()
 
 BOOL CMFCPropertyGridCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, UINT id)
 {
+    AFX_WM_PROPERTY_CHANGED = ::RegisterWindowMessage(L"AFX_WM_PROPERTY_CHANGED");
     WNDCLASS windowClass = {};
     windowClass.style = CS_DBLCLKS;
     windowClass.lpfnWndProc = &::DefWindowProc;

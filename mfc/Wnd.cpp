@@ -208,7 +208,7 @@ BOOL CWnd::DispatchMapped(UINT message, UINT code, UINT id, WPARAM wParam, LPARA
         for (const AFX_MSGMAP_ENTRY* entry = map->entries; entry->message; ++entry)
         {
             const UINT wanted = entry->registered ? *entry->registered : entry->message;
-            if (wanted != message || entry->code != code || entry->id != id)
+            if (wanted == 0 || wanted != message || entry->code != code || entry->id != id)
                 continue;
             *result = entry->invoke(*this, wParam, lParam);
             return TRUE;

@@ -10,10 +10,11 @@ class CScrollBar;
 
 struct AFX_MSGMAP_ENTRY
 {
-    UINT message;           // 0 ends the table
-    UINT code;              // notification code of WM_COMMAND
-    UINT id;                // control of WM_COMMAND
-    const UINT* registered; // set for a registered message: its number is known only at run time
+    UINT message; // 0 ends the table
+    UINT code;    // notification code of WM_COMMAND
+    UINT id;      // control of WM_COMMAND
+    const UINT*
+        registered; // set for a registered message: its number is known only at run time, and 0 until it is registered
     LRESULT (*invoke)(CWnd& wnd, WPARAM wParam, LPARAM lParam);
 };
 

@@ -19,7 +19,7 @@
 #include <vector>
 
 // Sent to the grid's parent after the operator changed a value: wParam is the grid's id, lParam the property.
-extern const UINT AFX_WM_PROPERTY_CHANGED;
+extern UINT AFX_WM_PROPERTY_CHANGED; // 0 until the first grid is created
 
 class CMFCPropertyGridCtrl;
 

@@ -9,10 +9,13 @@
 namespace
 {
 // Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
-const UINT WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
+UINT WM_RIGHT_BUTTON_WENT_UP = 0;
 } // namespace
 
-CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, FALSE) {}
+CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, FALSE)
+{
+    WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
+}
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
     ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)
