@@ -168,6 +168,11 @@ TEST(LibraryVersion, IsTheSameInWords)
     EXPECT_EQ(version.Text(L"ProductVersion"), VersionText());
 }
 
+TEST(LibraryVersion, NamesItsMakers)
+{
+    EXPECT_EQ(VersionResource().Text(L"CompanyName"), L"The Quorvane maintainers");
+}
+
 TEST(LibraryVersion, CallsTheFileByItsName)
 {
     EXPECT_EQ(VersionResource().Text(L"OriginalFilename"), kLibrary);
