@@ -5,6 +5,11 @@
 
 class IInkChannel;
 
+// The library's array has three pointers and one field of a pointer's size more. See docs/abi.md.
+static_assert(sizeof(std::vector<IInkChannel*>) == 3 * sizeof(void*) ||
+                  sizeof(std::vector<IInkChannel*>) == 4 * sizeof(void*),
+              "This compiler's std::vector cannot be filled with the library's channels");
+
 /// The ink channels of the machine, by layout and by id. Read only.
 class IInkChannelTable
 {
@@ -24,8 +29,9 @@ public:
     /// Appends the channels of a layout to the library's array, in the order in which they are to be shown. The first
     /// twelve are shown. For an unknown layout, append nothing. The array is empty and has room for 65,536 channels:
     /// append by push_back, and not beyond that room, because growing the array would mix the memory of two run-time
-    /// libraries. Microsoft's iterator debugging makes the vector larger; set _ITERATOR_DEBUG_LEVEL to 0. The channels
-    /// stay the host's and must live until the editor operation returns.
+    /// libraries. Do not rely on size() or on the items before yours: where the compiler keeps a field before the three
+    /// pointers of a vector, the array looks full of something else. The channels stay the host's and must live until
+    /// the editor operation returns.
     virtual void GetChannelsOfLayout(std::uint8_t layoutId, std::vector<IInkChannel*>* channels) = 0; // 8
 
 protected:

@@ -1,5 +1,6 @@
 #include "dialogs/data/Ink.h"
 
+#include "dialogs/data/ChannelArray.h"
 #include "dialogs/data/Machine.h"
 #include "host/IInkChannelTable.h"
 
@@ -7,10 +8,6 @@
 
 namespace
 {
-// The host appends with its own compiler's code: it must never need to grow the array with its own heap. So there is
-// room for as many channels as there are channel ids.
-constexpr std::size_t CHANNEL_ROOM = 65536;
-
 constexpr std::uint32_t MIN_PROBED_ROWS = 6;
 
 bool HasLayout(int layoutId)
@@ -36,14 +33,12 @@ void ForEachActiveGroup(Visitor visit)
 
 std::vector<IInkChannel*> InkChannelsOf(int layoutId)
 {
-    std::vector<IInkChannel*> channels;
     IInkChannelTable* table = HasLayout(layoutId) ? HostData().GetInkChannels() : nullptr;
     if (!table)
-        return channels;
-    channels.reserve(CHANNEL_ROOM);
-    table->GetChannelsOfLayout(static_cast<std::uint8_t>(layoutId), &channels);
-    const auto shown = static_cast<std::ptrdiff_t>(std::min(channels.size(), INK_ROWS));
-    return {channels.begin(), channels.begin() + shown};
+        return {};
+    CChannelArray channels;
+    table->GetChannelsOfLayout(static_cast<std::uint8_t>(layoutId), channels.AsVector());
+    return channels.First(INK_ROWS);
 }
 
 InkGroupRows InkGroupsOfRows()

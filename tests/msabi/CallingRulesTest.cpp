@@ -168,18 +168,49 @@ TEST_F(HostObject, ComplainsWhenItWasRemoved)
 class ChannelArray : public HostObject
 {
 protected:
+    static constexpr unsigned kMostChannels = 65536; // one for every id
+
     void Fill(void* array) { CallPosition<void>(OfData(20), 8, std::uint8_t{40}, array); }
+    // The labels of the ink multiple page.
+    Texts ShownChannels();
 };
+
+Texts ChannelArray::ShownChannels()
+{
+    Texts shown;
+    Edit(Editor::FactorySchemes, ExpectFactoryEditor, [&](FactoryEditor& editor) {
+        const Window page = editor.Open(SchemePage::InkMultiple);
+        for (int row = 0; row < 12; ++row)
+            if (const Window label = page.Control(IDC_STATIC_COLOR_FIRST + row); label.IsVisible())
+                shown.push_back(label.Text());
+        editor.Cancel();
+    });
+    return shown;
+}
 
 TEST_F(ChannelArray, NeverGrowsInTheHostsHeap)
 {
-    constexpr unsigned kMostChannels = 65536; // one for every id
     m_host.Api().SetChannelCount(kMostChannels);
     Edit(Editor::FactorySchemes, ExpectFactoryEditor, [](FactoryEditor& editor) {
         editor.Schemes().ClickRow(1);
         editor.Cancel();
     });
     EXPECT_GT(m_host.Api().ArraysFilled(), 0u);
+    EXPECT_EQ(m_host.Api().ArraysGrown(), 0u);
+}
+
+// Microsoft's compilers before 2010, and the iterator debugging of the later ones.
+TEST_F(ChannelArray, MayHaveAFieldBeforeItsPointers)
+{
+    for (const unsigned count : {0u, 4u, kMostChannels})
+    {
+        m_host.Api().SetChannelCount(count);
+        m_host.Api().SetFieldsBeforeArray(0);
+        const Texts shown = ShownChannels();
+        EXPECT_FALSE(shown.empty());
+        m_host.Api().SetFieldsBeforeArray(1);
+        EXPECT_EQ(ShownChannels(), shown);
+    }
     EXPECT_EQ(m_host.Api().ArraysGrown(), 0u);
 }
 

@@ -44,6 +44,8 @@ struct HostApi
     unsigned(__cdecl* Deletes)();
     // The number of ink channels of each layout from now on.
     void(__cdecl* SetChannelCount)(unsigned count);
+    // From now on the host's compiler has so many fields before the pointers of a growing array that it is given.
+    void(__cdecl* SetFieldsBeforeArray)(unsigned count);
     // How often an array of the library was filled, and how often it had to grow.
     unsigned(__cdecl* ArraysFilled)();
     unsigned(__cdecl* ArraysGrown)();

@@ -169,6 +169,11 @@ void __cdecl SetChannelCount(unsigned count)
     g_data->inkChannels->channelsOfLayout = count;
 }
 
+void __cdecl SetFieldsBeforeArray(unsigned count)
+{
+    g_data->inkChannels->fieldsBeforeArray = count;
+}
+
 unsigned __cdecl ArraysFilled()
 {
     return g_data->inkChannels->arraysFilled;
@@ -179,9 +184,25 @@ unsigned __cdecl ArraysGrown()
     return g_data->inkChannels->arraysGrown;
 }
 
-const HostApi kApi = {&Start,         &Edit,          &EditByPosition, &Release,         &Delete,        &PositionCount,
-                      &PositionName,  &PositionCalls, &FaultText,      &ChangeText,      &ForgetChanges, &Values,
-                      &LibraryObject, &Data,          &DeleteCount,    &SetChannelCount, &ArraysFilled,  &ArraysGrown};
+const HostApi kApi = {&Start,
+                      &Edit,
+                      &EditByPosition,
+                      &Release,
+                      &Delete,
+                      &PositionCount,
+                      &PositionName,
+                      &PositionCalls,
+                      &FaultText,
+                      &ChangeText,
+                      &ForgetChanges,
+                      &Values,
+                      &LibraryObject,
+                      &Data,
+                      &DeleteCount,
+                      &SetChannelCount,
+                      &SetFieldsBeforeArray,
+                      &ArraysFilled,
+                      &ArraysGrown};
 } // namespace
 
 extern "C" __declspec(dllexport) const HostApi* __cdecl GetHostApi()

@@ -25,7 +25,9 @@ void InkChannelTable::GetChannelsOfLayout(unsigned char layoutId, HostArray<IInk
 {
     if (!Require(layoutId == 40 || layoutId == 41, "there is no such layout"))
         return;
-    Require(channels->Size() == 0, "the array is not empty");
+    if (fieldsBeforeArray == 0)
+        Require(channels->Size() == 0, "the array is not empty");
+    channels = reinterpret_cast<HostArray<IInkChannel*>*>(reinterpret_cast<void**>(channels) + fieldsBeforeArray);
     const void* const storage = channels->Storage();
     const unsigned first = layoutId == 40 ? 0 : 4;
     const unsigned own = layoutId == 40 ? 4 : 2;

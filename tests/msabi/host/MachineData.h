@@ -24,6 +24,7 @@ public:
     HostArray<InkChannel*> items;
     // Of a layout: its own ones in turn, as often as it takes.
     unsigned channelsOfLayout = 0;
+    unsigned fieldsBeforeArray = 0;
     unsigned arraysFilled = 0;
     unsigned arraysGrown = 0;
 };
