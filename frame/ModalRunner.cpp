@@ -1,6 +1,7 @@
 #include "frame/ModalRunner.h"
 
 #include "frame/CommonControls.h"
+#include "frame/DpiAwareness.h"
 
 #include <cwchar>
 #include <string>
@@ -35,6 +36,7 @@ int RunModal(CDialog* dialog, const wchar_t* libraryFileName)
     if (!dialog)
         return -1;
     const CCommonControls controls;
+    const CDpiAwareness awareness;
     const CCurrentResources resources(libraryFileName ? LoadBesideHost(libraryFileName) : AfxGetResourceHandle());
     return static_cast<int>(dialog->DoModal());
 }

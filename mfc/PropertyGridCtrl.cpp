@@ -2,6 +2,7 @@
 
 #include "AfxState.h"
 
+#include <imm.h>
 #include <windowsx.h>
 
 #include <algorithm>
@@ -106,6 +107,7 @@ BOOL CMFCPropertyGridCtrl::Create(DWORD style, const RECT& rect, CWnd* parent, U
         return FALSE;
     if (!CreateEx(0, CLASS_NAME, nullptr, style | WS_CLIPCHILDREN | WS_CLIPSIBLINGS, rect, parent, id))
         return FALSE;
+    ::ImmAssociateContext(m_hWnd, nullptr); // keys choose here; nothing is written
     m_look.enabled = IsWindowEnabled();
     CreateChildren();
     const auto font = reinterpret_cast<HFONT>(parent->SendMessage(WM_GETFONT));

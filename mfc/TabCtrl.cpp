@@ -2,6 +2,7 @@
 
 #include "GdiObjects.h"
 
+#include <uxtheme.h>
 #include <windowsx.h>
 
 namespace
@@ -38,15 +39,21 @@ bool WantsTabKey(HWND window, const MSG& msg)
     return (code & (DLGC_WANTTAB | DLGC_WANTALLKEYS)) != 0;
 }
 
-int MinTabWidth(HWND window)
+bool IsStop(HWND control)
 {
-    const auto font = reinterpret_cast<HFONT>(::SendMessage(window, WM_GETFONT, 0, 0));
+    const LONG style = ::GetWindowLong(control, GWL_STYLE);
+    return (style & WS_TABSTOP) != 0 && (style & WS_VISIBLE) != 0 && (style & WS_DISABLED) == 0;
+}
+
+int MinTabWidth(HWND window, HFONT font)
+{
     return 2 * CTextMeasure(window, font).Height();
 }
 } // namespace
 
 BEGIN_MESSAGE_MAP(CMFCTabCtrl, CWnd)
     ON_WM_SIZE()
+    ON_MESSAGE(WM_SETFONT, &CMFCTabCtrl::OnSetFont)
     ON_MESSAGE(WM_LBUTTONDOWN, &CMFCTabCtrl::OnLButtonDown)
     ON_MESSAGE(TCM_SETCURFOCUS, &CMFCTabCtrl::OnSetCurFocus)
 END_MESSAGE_MAP()
@@ -55,13 +62,11 @@ BOOL CMFCTabCtrl::Create(Style, const RECT& rect, CWnd* parent, UINT id, Locatio
 {
     const INITCOMMONCONTROLSEX controls = {sizeof(controls), ICC_TAB_CLASSES};
     ::InitCommonControlsEx(&controls);
-    const DWORD style = WS_CHILD | WS_VISIBLE | WS_TABSTOP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | TCS_FOCUSONBUTTONDOWN |
-                        (location == LOCATION_BOTTOM ? TCS_BOTTOM : 0u);
+    const DWORD style = WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP | WS_CLIPCHILDREN | WS_CLIPSIBLINGS |
+                        TCS_FOCUSONBUTTONDOWN | (location == LOCATION_BOTTOM ? TCS_BOTTOM : 0u);
     if (!CreateEx(WS_EX_CONTROLPARENT, WC_TABCONTROL, nullptr, style, rect, parent, id))
         return FALSE;
     SendMessage(WM_SETFONT, static_cast<WPARAM>(parent->SendMessage(WM_GETFONT)));
-    SendMessage(TCM_SETPADDING, 0, MAKELPARAM(TAB_PADDING, TAB_PADDING));
-    SendMessage(TCM_SETMINTABWIDTH, 0, MinTabWidth(m_hWnd));
     return TRUE;
 }
 
@@ -75,6 +80,7 @@ void CMFCTabCtrl::AddTab(CWnd* page, const wchar_t* label, UINT, BOOL)
     m_vecPages.push_back(page);
     if (m_nActive < 0)
         m_nActive = 0;
+    ::EnableThemeDialogTexture(page->m_hWnd, ETDT_ENABLETAB);
     page->MoveWindow(PageRect());
     page->ShowWindow(page == ActivePage() ? SW_SHOW : SW_HIDE);
 }
@@ -116,12 +122,13 @@ BOOL CMFCTabCtrl::PreTranslateMessage(MSG* message)
     return TRUE;
 }
 
+// Walked by hand: GetNextDlgTabItem promises nothing for a search that starts at no control.
 HWND CMFCTabCtrl::FirstStopOfPage() const
 {
-    HWND page = ActivePage()->m_hWnd;
-    HWND stop = ::GetNextDlgTabItem(page, nullptr, FALSE);
-    const bool isStop = stop && (::GetWindowLong(stop, GWL_STYLE) & WS_TABSTOP) != 0;
-    return isStop && ::IsChild(page, stop) ? stop : nullptr;
+    HWND control = ::GetWindow(ActivePage()->m_hWnd, GW_CHILD);
+    while (control && !IsStop(control))
+        control = ::GetWindow(control, GW_HWNDNEXT);
+    return control;
 }
 
 // The system passes over a window that has controls of its own, so the ways to and from the strip are walked here.
@@ -192,6 +199,21 @@ BOOL CMFCTabCtrl::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRES
 void CMFCTabCtrl::OnSize(UINT type, int cx, int cy)
 {
     CWnd::OnSize(type, cx, cy);
+    PlacePages();
+}
+
+// The tabs get as high as the font wants them, and leave the rest to the pages.
+LRESULT CMFCTabCtrl::OnSetFont(WPARAM wParam, LPARAM)
+{
+    const LRESULT result = Default();
+    SendMessage(TCM_SETPADDING, 0, MAKELPARAM(TAB_PADDING, TAB_PADDING));
+    SendMessage(TCM_SETMINTABWIDTH, 0, MinTabWidth(m_hWnd, reinterpret_cast<HFONT>(wParam)));
+    PlacePages();
+    return result;
+}
+
+void CMFCTabCtrl::PlacePages()
+{
     for (CWnd* page : m_vecPages)
         page->MoveWindow(PageRect());
 }

@@ -1,11 +1,10 @@
 // CMFCTabCtrl: pages behind tabs, built on the system's tab control.
-// Supported: tabs at the top or the bottom; pages follow the control's size; switching by mouse, by Left and Right on
-// the strip, and by Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Ctrl+Page Down. Tab walks through the strip and the
-// active page. Forward PreTranslateMessage to it to have these keys in the whole dialog. An empty label keeps a width
-// that can be clicked.
-// Not supported: images, detaching, close buttons, flat styles, and messages about a change of the active tab.
-// Differs: a page is left only when the focus can leave it. When a kill-focus handler puts the focus back, the page
-// stays and SetActiveTab returns FALSE.
+// Supported: tabs at the top or the bottom; pages follow the control's size and font; switching by mouse, by Left and
+// Right on the strip, and by Ctrl+Tab, Ctrl+Shift+Tab, Ctrl+Page Up and Ctrl+Page Down. Tab walks through the strip and
+// the active page. Forward PreTranslateMessage to it to have these keys in the whole dialog. An empty label keeps a
+// width that can be clicked. Not supported: images, detaching, close buttons, flat styles, and messages about a change
+// of the active tab. Differs: a page is left only when the focus can leave it. When a kill-focus handler puts the focus
+// back, the page stays and SetActiveTab returns FALSE.
 #pragma once
 
 #include <afxwin.h>
@@ -40,6 +39,7 @@ protected:
     void PostNcDestroy() override;
 
     void OnSize(UINT type, int cx, int cy);
+    LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
     LRESULT OnLButtonDown(WPARAM wParam, LPARAM lParam);
     LRESULT OnSetCurFocus(WPARAM wParam, LPARAM lParam);
 
@@ -49,6 +49,7 @@ private:
     CWnd* ActivePage() const { return m_vecPages[static_cast<size_t>(m_nActive)]; }
     int TabAt(LPARAM point) const;
     RECT PageRect() const;
+    void PlacePages();
     bool LeaveActivePage();
     HWND FirstStopOfPage() const;
     HWND TabTarget(HWND focus, bool back) const;

@@ -708,6 +708,13 @@ TEST_F(PropertyGrid, PaintingAndChangingFontsLeakNoDrawingObjects)
     EXPECT_LT(DrawingObjects(), before + 50);
 }
 
+// Letters choose a row here. No window for the composition of characters may come between.
+TEST_F(PropertyGrid, HasNoInputMethod)
+{
+    EXPECT_NE(::ImmGetContext(owner.Item(kEditId)), nullptr);
+    EXPECT_EQ(::ImmGetContext(grid.m_hWnd), nullptr);
+}
+
 // The colour of the grid's point, drawn afresh.
 class PropertyGridColours : public PropertyGrid
 {

@@ -348,4 +348,27 @@ TEST_F(TabCtrl, StripAtTheBottomLiesBelowThePage)
     EXPECT_LE(rect.bottom, tab.top);
     bottom.DestroyWindow();
 }
+
+// As when the scale of the screen changes: higher tabs leave less to the pages.
+TEST_F(TabCtrl, FollowsItsFont)
+{
+    const auto pageTop = [this] {
+        RECT rect;
+        ::GetWindowRect(pages[0].m_hWnd, &rect);
+        return rect.top;
+    };
+    const LONG top = pageTop();
+    const RECT tab = TabRect(2);
+    LOGFONTW large = {};
+    large.lfHeight = -40;
+    const HFONT font = ::CreateFontIndirectW(&large);
+    tabs.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE);
+    EXPECT_GT(TabRect(2).bottom, tab.bottom);
+    EXPECT_GT(TabRect(2).right - TabRect(2).left, tab.right - tab.left);
+    EXPECT_GE(pageTop() - top, TabRect(2).bottom - tab.bottom);
+    tabs.SendMessage(WM_SETFONT, owner.SendMessage(WM_GETFONT), TRUE);
+    EXPECT_EQ(pageTop(), top);
+    EXPECT_EQ(TabRect(2).right - TabRect(2).left, tab.right - tab.left);
+    ::DeleteObject(font);
+}
 } // namespace

@@ -404,6 +404,35 @@ TEST(SchemeTemplates, ModeRadiosFormOneGroup)
     EXPECT_GE(groups, 2); // one begins behind them
 }
 
+bool IsPressed(const TemplateControl& control)
+{
+    const DWORD type = control.style & BS_TYPEMASK;
+    return control.className == kButton && type != BS_GROUPBOX;
+}
+
+bool HandlesArrowKeys(const TemplateControl& control)
+{
+    return !IsPressed(control) && control.className != kButton && control.className != kStatic;
+}
+
+// Arrow keys move the focus from a button to the next control of its group: nothing but another button may be there.
+TEST(SchemeTemplates, NoGroupHasButtonsAndOtherControls)
+{
+    for (const DialogTemplate& dialog : AllDialogTemplates())
+    {
+        bool hasButtons = false;
+        bool hasOthers = false;
+        for (const TemplateControl& control : dialog.controls)
+        {
+            if (control.style & WS_GROUP)
+                hasButtons = hasOthers = false;
+            hasButtons = hasButtons || IsPressed(control);
+            hasOthers = hasOthers || HandlesArrowKeys(control);
+            EXPECT_FALSE(hasButtons && hasOthers) << "dialog " << dialog.id << ", control " << control.id;
+        }
+    }
+}
+
 TEST(SchemeTemplates, CopyMenu)
 {
     const HMODULE library = LoadLibraryW(L"Quorvane.dll");

@@ -343,4 +343,30 @@ TEST_F(EditorFocus, ArrowKeysInTheListsSelectAsTheMouseDoes)
         editor.Cancel();
     });
 }
+
+TEST_F(EditorFocus, ArrowKeysStayAmongTheButtons)
+{
+    Run([](PrintModeEditor& editor) {
+        const auto walk = [&](int first, int key) {
+            std::set<int> reached;
+            editor.Op().MoveFocus(editor.Dialog().Control(first));
+            for (int i = 0; i < 6; ++i)
+            {
+                editor.Op().Key(key);
+                reached.insert(GetDlgCtrlID(editor.Op().Focus().Handle()));
+            }
+            return reached;
+        };
+        for (const int key : {VK_LEFT, VK_UP, VK_RIGHT, VK_DOWN})
+        {
+            EXPECT_EQ(walk(IDC_BTN_ADD_CFG, key), (std::set<int>{IDC_BTN_ADD_CFG, IDC_BTN_DEL_CFG}));
+            EXPECT_EQ(walk(IDOK, key), (std::set<int>{IDOK, IDCANCEL}));
+            for (const int id : walk(IDC_BTN_ADD_MODE, key))
+                EXPECT_TRUE(id == IDC_BTN_ADD_MODE || id == IDC_BTN_DEL_MODE || id == IDC_BTN_MODE_UP ||
+                            id == IDC_BTN_MODE_DOWN)
+                    << id;
+        }
+        editor.Cancel();
+    });
+}
 } // namespace

@@ -1,0 +1,61 @@
+// The functions that tell of scales came with Windows 10. The library looks them up at run time.
+#undef WINVER
+#undef _WIN32_WINNT
+#define WINVER 0x0A00
+#define _WIN32_WINNT 0x0A00
+
+#include "tests/editors/fixtures/FactorySchemeFixture.h"
+
+namespace
+{
+struct HostScale
+{
+    const char* name;
+    DPI_AWARENESS_CONTEXT context;
+    DPI_AWARENESS ofEditor;
+};
+
+std::ostream& operator<<(std::ostream& stream, const HostScale& scale)
+{
+    return stream << scale.name;
+}
+
+class EditorScale : public FactorySchemeFixture, public testing::WithParamInterface<HostScale>
+{
+protected:
+    EditorScale() : m_before(SetThreadDpiAwarenessContext(GetParam().context)) {}
+    ~EditorScale() override { SetThreadDpiAwarenessContext(m_before); }
+
+private:
+    const DPI_AWARENESS_CONTEXT m_before;
+};
+
+DPI_AWARENESS AwarenessOf(const Window& window)
+{
+    return GetAwarenessFromDpiAwarenessContext(GetWindowDpiAwarenessContext(window.Handle()));
+}
+
+// Template, fonts and measures keep to one scale in every window. That of the host is in effect again afterwards.
+TEST_P(EditorScale, IsOneForAllWindows)
+{
+    Run([](FactoryEditor& editor) {
+        EXPECT_EQ(AwarenessOf(editor.Dialog()), GetParam().ofEditor);
+        EXPECT_EQ(AwarenessOf(editor.Open(SchemePage::Eclosion)), GetParam().ofEditor);
+        const Window eclosion = editor.OpenCustomEclosion();
+        EXPECT_EQ(AwarenessOf(eclosion), GetParam().ofEditor);
+        editor.Confirm(eclosion, IDCANCEL);
+        editor.Cancel();
+    });
+    EXPECT_TRUE(AreDpiAwarenessContextsEqual(GetThreadDpiAwarenessContext(), GetParam().context));
+}
+
+const HostScale kScales[] = {
+    {"PerMonitor", DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE, DPI_AWARENESS_SYSTEM_AWARE},
+    {"PerMonitorV2", DPI_AWARENESS_CONTEXT_PER_MONITOR_AWARE_V2, DPI_AWARENESS_SYSTEM_AWARE},
+    {"System", DPI_AWARENESS_CONTEXT_SYSTEM_AWARE, DPI_AWARENESS_SYSTEM_AWARE},
+    {"Unaware", DPI_AWARENESS_CONTEXT_UNAWARE, DPI_AWARENESS_UNAWARE},
+};
+
+INSTANTIATE_TEST_SUITE_P(InAHost, EditorScale, testing::ValuesIn(kScales),
+                         [](const auto& scale) { return std::string(scale.param.name); });
+} // namespace
