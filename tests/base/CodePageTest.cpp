@@ -99,4 +99,41 @@ TEST_F(CodePage, RefusesTextsThatNoTargetHolds)
     EXPECT_TRUE(IsConvertibleLength(0x3FFFFFFF));
     EXPECT_FALSE(IsConvertibleLength(0x40000000));
 }
+// What the thread has where the process has declared UTF-8 as its code page.
+TEST_F(CodePage, MayBeUtf8)
+{
+    EXPECT_EQ(WideTextOf("\xE6\x89\x93\xE5\x8D\xB0 A", CP_UTF8), L"\x6253\x5370 A");
+    EXPECT_EQ(NarrowTextOf(L"\x6253\x5370 A", CP_UTF8), "\xE6\x89\x93\xE5\x8D\xB0 A");
+    EXPECT_EQ(NarrowTextOf(L"\xD83D\xDE00", CP_UTF8), "\xF0\x9F\x98\x80");
+    EXPECT_EQ(NarrowTextOf(L"", CP_UTF8), "");
+    EXPECT_FALSE(NarrowTextOf(nullptr, CP_UTF8));
+    EXPECT_FALSE(WideTextOf(nullptr, CP_UTF8));
+}
+
+TEST_F(CodePage, TakesTextsOfAnyLengthInUtf8)
+{
+    for (size_t length : {1u, 2u, 3u, 60u, 10000u})
+    {
+        const std::wstring wide(length, L'\x6253');
+        const auto narrow = NarrowTextOf(wide.c_str(), CP_UTF8);
+        ASSERT_TRUE(narrow) << length;
+        EXPECT_EQ(narrow->size(), 3 * length);
+        EXPECT_EQ(WideTextOf(narrow->c_str(), CP_UTF8), wide);
+    }
+}
+
+TEST_F(CodePage, ThatDoesNotExistConvertsNothing)
+{
+    EXPECT_FALSE(WideTextOf("A", 12345));
+    EXPECT_FALSE(NarrowTextOf(L"A", 12345));
+}
+
+TEST_F(CodePage, DoesNotChangeTheSizeOfAGivenTarget)
+{
+    char narrow[5] = "zzzz";
+    EXPECT_EQ(ToNarrow(L"\x6253\x5370", narrow, 5, CP_UTF8), nullptr);
+    EXPECT_STREQ(narrow, "");
+    EXPECT_EQ(ToNarrow(L"\x6253", narrow, 5, CP_UTF8), narrow);
+    EXPECT_STREQ(narrow, "\xE6\x89\x93");
+}
 } // namespace
