@@ -35,6 +35,18 @@ TEST_F(CodePage, OfAChineseThreadIs936)
     EXPECT_EQ(NarrowText(L"\x6253\x5370 A"), "\xB4\xF2\xD3\xA1 A");
 }
 
+// What a host does that keeps its names in the code page of the process.
+TEST_F(CodePage, OfAThreadWithTheSystemsLocaleIsTheOneOfTheProcess)
+{
+    std::string bytes;
+    for (int byte = 0xFF; byte >= 0x20; --byte)
+        bytes += static_cast<char>(byte);
+    Use(kChinese);
+    EXPECT_NE(WideText(bytes.c_str()), WideTextOf(bytes.c_str(), CP_ACP));
+    Use(GetSystemDefaultLCID());
+    EXPECT_EQ(WideText(bytes.c_str()), WideTextOf(bytes.c_str(), CP_ACP));
+}
+
 TEST_F(CodePage, ReplacesWhatItLacks)
 {
     Use(kEnglish);
