@@ -1,14 +1,26 @@
 #include "dialogs/base/CodePage.h"
 
 #include "dialogs/data/HostText.h"
+#include "tests/support/ImportHook.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 #include <windows.h>
 
 namespace
 {
 constexpr LCID kEnglish = 0x0409; // code page 1252
 constexpr LCID kChinese = 0x0804; // code page 936
+
+std::vector<int> rooms;
+decltype(&WideCharToMultiByte) convert;
+
+int WINAPI NarrowAndNoteTheRoom(UINT codePage, DWORD flags, const wchar_t* text, int size, char* target, int room,
+                                const char* standIn, BOOL* usedStandIn)
+{
+    rooms.push_back(room);
+    return convert(codePage, flags, text, size, target, room, standIn, usedStandIn);
+}
 
 class CodePage : public testing::Test
 {
@@ -132,6 +144,19 @@ TEST_F(CodePage, TakesTextsOfAnyLengthInUtf8)
         EXPECT_EQ(narrow->size(), 3 * length);
         EXPECT_EQ(WideTextOf(narrow->c_str(), CP_UTF8), wide);
     }
+}
+
+TEST_F(CodePage, GivesTwoBytesACharacterBeforeItAsksForMore)
+{
+    const ImportHook hook(GetModuleHandleW(nullptr), "WideCharToMultiByte",
+                          reinterpret_cast<const void*>(&NarrowAndNoteTheRoom));
+    convert = hook.Original<decltype(convert)>();
+    rooms.clear();
+    EXPECT_TRUE(NarrowTextOf(L"\x6253", 936));
+    EXPECT_EQ(rooms, std::vector<int>{4});
+    rooms.clear();
+    EXPECT_TRUE(NarrowTextOf(L"\x6253\x5370", CP_UTF8));
+    EXPECT_EQ(rooms, (std::vector<int>{6, 0, 7}));
 }
 
 TEST_F(CodePage, ThatDoesNotExistConvertsNothing)
