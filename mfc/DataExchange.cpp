@@ -1,10 +1,9 @@
 #include <afxwin.h>
 
-#include <cerrno>
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <cwchar>
-#include <cwctype>
 
 namespace
 {
@@ -28,24 +27,51 @@ void SetControlText(HWND control, const wchar_t* text)
         ::SetWindowText(control, text);
 }
 
+const wchar_t* SkipSpace(const wchar_t* text)
+{
+    while (afx::IsSpace(*text))
+        ++text;
+    return text;
+}
+
 bool IsBlank(const wchar_t* text)
 {
-    while (std::iswspace(static_cast<wint_t>(*text)))
-        ++text;
-    return *text == L'\0';
+    return *SkipSpace(text) == L'\0';
 }
 
 bool HasOnly(const wchar_t* text, const wchar_t* allowed)
 {
     for (; *text; ++text)
-        if (!std::wcschr(allowed, *text) && !std::iswspace(static_cast<wint_t>(*text)))
+        if (!std::wcschr(allowed, *text) && !afx::IsSpace(*text))
             return false;
     return true;
+}
+
+// The C library's locale is the process's: any module that shares the library may have set another point.
+wchar_t DecimalPoint()
+{
+    CString half;
+    half.Format(L"%.1f", 0.5);
+    return half.GetString()[1];
+}
+
+std::wstring WithPoint(std::wstring text, wchar_t before, wchar_t after)
+{
+    std::replace(text.begin(), text.end(), before, after);
+    return text;
+}
+
+std::wstring FloatText(float value)
+{
+    CString text;
+    text.Format(L"%.*g", FLT_DIG, static_cast<double>(value));
+    return WithPoint(text.GetString(), DecimalPoint(), L'.');
 }
 } // namespace
 
 bool afx::ParseInt(const wchar_t* text, int& value)
 {
+    text = SkipSpace(text);
     wchar_t* end = nullptr;
     const long parsed = std::wcstol(text, &end, 10); // clamps by itself: long has 32 bits here
     if (end == text || !IsBlank(end))
@@ -58,9 +84,10 @@ bool afx::ParseFloat(const wchar_t* text, float& value)
 {
     if (!HasOnly(text, L"0123456789+-.eE"))
         return false;
+    const std::wstring number = WithPoint(SkipSpace(text), L'.', DecimalPoint());
     wchar_t* end = nullptr;
-    const double parsed = std::wcstod(text, &end);
-    if (end == text || !IsBlank(end) || !std::isfinite(parsed) || std::fabs(parsed) > FLT_MAX)
+    const double parsed = std::wcstod(number.c_str(), &end);
+    if (end == number.c_str() || !IsBlank(end) || !std::isfinite(parsed) || std::fabs(parsed) > FLT_MAX)
         return false;
     value = static_cast<float>(parsed);
     return true;
@@ -125,9 +152,7 @@ void DDX_Text(CDataExchange* exchange, int id, float& value)
             Refuse(exchange, L"Please enter a number.");
         return;
     }
-    CString text;
-    text.Format(L"%.*g", FLT_DIG, static_cast<double>(value));
-    SetControlText(control, text);
+    SetControlText(control, FloatText(value).c_str());
 }
 
 void DDX_Text(CDataExchange* exchange, int id, CString& value)

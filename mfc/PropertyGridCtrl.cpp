@@ -170,9 +170,10 @@ void CMFCPropertyGridCtrl::SetCustomColors(COLORREF background, COLORREF text, C
 
 int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* property, BOOL redraw, BOOL adjustLayout)
 {
+    std::unique_ptr<CMFCPropertyGridProperty> owned(property); // also where memory runs out
     property->m_pGrid = this;
     property->SetOriginalValue(property->GetValue());
-    m_vecProperties.emplace_back(property);
+    m_vecProperties.push_back(std::move(owned));
     m_layout.SetRowCount(GetPropertyCount());
     if (m_hWnd && adjustLayout)
         UpdateScrollBar(FALSE);

@@ -1,8 +1,14 @@
 #include <afxstr.h>
 
 #include <cwchar>
-#include <cwctype>
 #include <vector>
+
+bool afx::IsSpace(wchar_t ch)
+{
+    static constexpr wchar_t SPACE[] = L"\t\n\v\f\r \x85\xA0\x1680\x2000\x2001\x2002\x2003\x2004\x2005\x2006\x2007"
+                                       L"\x2008\x2009\x200A\x2028\x2029\x202F\x205F\x3000";
+    return ch != L'\0' && std::wcschr(SPACE, ch);
+}
 
 int CString::CompareNoCase(const wchar_t* text) const
 {
@@ -43,12 +49,11 @@ void CString::AppendFormat(const wchar_t* format, ...)
 
 CString& CString::Trim()
 {
-    const auto isSpace = [](wchar_t ch) { return std::iswspace(static_cast<wint_t>(ch)) != 0; };
     size_t begin = 0;
     size_t end = m_strText.size();
-    while (begin < end && isSpace(m_strText[begin]))
+    while (begin < end && afx::IsSpace(m_strText[begin]))
         ++begin;
-    while (end > begin && isSpace(m_strText[end - 1]))
+    while (end > begin && afx::IsSpace(m_strText[end - 1]))
         --end;
     m_strText = m_strText.substr(begin, end - begin);
     return *this;

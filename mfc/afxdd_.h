@@ -54,6 +54,7 @@ namespace afx
 {
 // An optional sign and decimal digits, blanks around allowed; beyond 32 bits the nearest value.
 bool ParseInt(const wchar_t* text, int& value);
-// A decimal number with '.' and optional exponent, blanks around allowed; no hexadecimal, no "nan" or "inf".
+// A decimal number with '.', whatever the C library's locale, and optional exponent, blanks around allowed; no
+// hexadecimal, no "nan" or "inf".
 bool ParseFloat(const wchar_t* text, float& value);
 } // namespace afx

@@ -8,6 +8,12 @@
 #include <cstdarg>
 #include <string>
 
+namespace afx
+{
+// The white space of Unicode, whatever locale the C library has.
+bool IsSpace(wchar_t ch);
+} // namespace afx
+
 class CString
 {
 public:
@@ -36,7 +42,7 @@ public:
     void Format(const wchar_t* format, ...);
     void AppendFormat(const wchar_t* format, ...);
 
-    // Removes white space (tab, no-break and ideographic space included) at both ends.
+    // Removes white space at both ends, as afx::IsSpace knows it.
     CString& Trim();
 
 private:

@@ -3,6 +3,8 @@
 #include "tests/base/LanguageCases.h"
 #include "tests/support/Utf16.h"
 
+#include <algorithm>
+#include <cstring>
 #include <gtest/gtest.h>
 
 namespace
@@ -19,6 +21,28 @@ TEST_P(LanguageTextCase, IsLookedUp)
 
 INSTANTIATE_TEST_SUITE_P(Named, LanguageTextCase, testing::ValuesIn(LanguageCases()),
                          [](const auto& test) { return std::string(test.param.name); });
+
+TEST(KnownDifferences, AreThoseOfACase)
+{
+    const auto& cases = LanguageCases();
+    for (const KnownDifference& difference : KnownDifferences())
+    {
+        const auto isMeant = [&](const LanguageCase& c) { return std::strcmp(c.name, difference.testCase) == 0; };
+        const auto found = std::find_if(cases.begin(), cases.end(), isMeant);
+        ASSERT_NE(found, cases.end()) << difference.testCase;
+        EXPECT_NE(found->expected, difference.answer) << difference.testCase;
+    }
+}
+
+TEST(KnownDifferences, AreOfTheListedSystemsOnly)
+{
+    const LanguageCase ofWine{"BeforeAnySection", "", L"Windows"};
+    const LanguageCase ofWindows{"Utf8WithMark", "", L"the library"};
+    EXPECT_EQ(AnswerOf(0, ofWine), L"Windows");
+    EXPECT_EQ(AnswerOf(8, ofWine), L"v");
+    EXPECT_EQ(AnswerOf(0, ofWindows), L"DEF");
+    EXPECT_EQ(AnswerOf(8, ofWindows), L"the library");
+}
 
 TEST(LanguageText, OfNoFileGivesDefaults)
 {

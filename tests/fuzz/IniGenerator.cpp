@@ -64,7 +64,7 @@ std::string IniGenerator::File(IniEncoding encoding)
 
 std::wstring IniGenerator::QueryName()
 {
-    return Pick(kBlanks) + Pick(kNames) + Pick(kBlanks);
+    return Below(2) ? Pick(kNames) : Pick(kBlanks) + Pick(kNames) + Pick(kBlanks);
 }
 
 std::wstring IniGenerator::Default()
@@ -86,7 +86,8 @@ std::wstring IniGenerator::Line()
     {
     case 0:
     case 1:
-        return Gap() + L"[" + Gap() + Pick(kNames) + Gap() + L"]" + (Below(6) ? Gap() : Pick(kNames));
+        return Gap() + L"[" + Gap() + Pick(kNames) + Gap() + (Below(8) ? L"]" : L"") +
+               (Below(6) ? Gap() : Pick(kNames));
     case 2:
         return Gap() + Pick(kNames) + Gap();
     case 3:

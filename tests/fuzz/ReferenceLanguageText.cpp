@@ -4,18 +4,13 @@
 
 namespace
 {
-bool IsBlank(wchar_t c)
-{
-    return (c >= 9 && c <= 13) || c == 26 || c == 32;
-}
-
-std::wstring WithoutBlanks(const std::wstring& text)
+std::wstring Without(const std::wstring& blanks, const std::wstring& text)
 {
     std::size_t first = 0;
     std::size_t end = text.size();
-    while (first < end && IsBlank(text[first]))
+    while (first < end && blanks.find(text[first]) != std::wstring::npos)
         ++first;
-    while (end > first && IsBlank(text[end - 1]))
+    while (end > first && blanks.find(text[end - 1]) != std::wstring::npos)
         --end;
     return text.substr(first, end - first);
 }
@@ -25,11 +20,9 @@ std::wstring BeforeNul(const std::wstring& text)
     return text.c_str();
 }
 
-// Names differ by more than the case of A to Z, and by more than the blanks around them.
-bool SameName(const std::wstring& one, const std::wstring& other)
+// Names differ by more than the case of A to Z.
+bool SameName(const std::wstring& a, const std::wstring& b)
 {
-    const std::wstring a = BeforeNul(WithoutBlanks(one));
-    const std::wstring b = BeforeNul(WithoutBlanks(other));
     const auto upper = [](wchar_t c) { return c >= L'a' && c <= L'z' ? c - 32 : static_cast<int>(c); };
     bool same = a.size() == b.size();
     for (std::size_t i = 0; same && i < a.size(); ++i)
@@ -42,11 +35,8 @@ bool StartsWith(std::string_view bytes, std::string_view mark)
     return bytes.size() >= mark.size() && bytes.compare(0, mark.size(), mark) == 0;
 }
 
-std::wstring Decoded(std::string_view bytes)
+std::wstring FromUtf16(std::string_view bytes, bool lowFirst)
 {
-    const bool lowFirst = StartsWith(bytes, "\xFF\xFE");
-    if (!lowFirst && !StartsWith(bytes, "\xFE\xFF"))
-        return StartsWith(bytes, "\xEF\xBB\xBF") ? Utf8ToWide(bytes.substr(3)) : AnsiToWide(bytes);
     std::wstring text;
     for (std::size_t i = 2; i + 1 < bytes.size(); i += 2)
     {
@@ -57,49 +47,64 @@ std::wstring Decoded(std::string_view bytes)
     return text;
 }
 
-// A buffer holds 1023 characters. The closing quote is taken off after the cut; where it stood right behind the last
-// character that fits, that character goes instead of it.
-std::wstring Buffered(const std::wstring& value)
+bool IsQuoted(const std::wstring& value)
 {
-    const std::size_t last = value.size() - 1;
-    const bool quoted = value.size() >= 2 && value[0] == value[last] && (value[0] == L'"' || value[0] == L'\'');
-    if (!quoted)
-        return value.substr(0, 1023);
-    const std::wstring inner = value.substr(1, last - 1);
-    return inner.substr(0, inner.size() == 1023 ? 1022 : 1023);
+    return value.size() >= 2 && value.front() == value.back() && (value[0] == L'"' || value[0] == L'\'');
 }
 
-std::wstring DefaultOf(const std::wstring& text)
+std::wstring WithoutQuotes(const std::wstring& value)
 {
-    std::wstring result = BeforeNul(text);
-    while (result.size() > 1 && result.back() == L' ')
-        result.pop_back();
-    return result;
+    return IsQuoted(value) ? value.substr(1, value.size() - 2) : value;
 }
 } // namespace
 
-ReferenceLanguageText::ReferenceLanguageText(std::string_view bytes) : m_lines(LinesOf(Decoded(bytes))) {}
+IniRules WindowsRules()
+{
+    return {};
+}
+
+IniRules OurRules()
+{
+    IniRules rules = WindowsRules();
+    rules.readsUtf8Mark = true;
+    return rules;
+}
+
+IniRules WineRules()
+{
+    IniRules rules;
+    rules.blanks = rules.askedBlanks = L" \t\n\v\f\r\x1A";
+    rules.lastBracketCloses = rules.startsInSection = rules.commentsAreKeys = true;
+    rules.defaultLosesQuotes = rules.cutsBeforeClosingQuote = true;
+    rules.readsHighByteFirst = rules.readsUtf8Mark = true;
+    return rules;
+}
+
+ReferenceLanguageText::ReferenceLanguageText(std::string_view bytes, IniRules rules) : m_rules(std::move(rules))
+{
+    AddLines(Decoded(bytes));
+}
 
 std::wstring ReferenceLanguageText::GetText(const std::wstring& section, const std::wstring& key,
                                             const std::wstring& defaultText) const
 {
-    bool inSection = SameName(section, L"");
+    bool inSection = m_rules.startsInSection && IsAsked(L"", section);
     for (const Line& line : m_lines)
     {
         if (line.kind == Line::Kind::Section)
         {
             if (inSection)
                 break;
-            inSection = SameName(line.name, section);
+            inSection = IsAsked(line.name, section);
         }
-        else if (inSection && SameName(line.name, key))
+        else if (inSection && IsAsked(line.name, key))
         {
             if (!line.hasValue)
                 break;
             return Buffered(line.value);
         }
     }
-    return Buffered(DefaultOf(defaultText));
+    return DefaultOf(BeforeNul(defaultText));
 }
 
 std::vector<std::pair<std::wstring, std::wstring>> ReferenceLanguageText::Keys() const
@@ -116,9 +121,19 @@ std::vector<std::pair<std::wstring, std::wstring>> ReferenceLanguageText::Keys()
     return keys;
 }
 
-std::vector<ReferenceLanguageText::Line> ReferenceLanguageText::LinesOf(const std::wstring& text)
+std::wstring ReferenceLanguageText::Decoded(std::string_view bytes) const
 {
-    std::vector<Line> lines;
+    if (StartsWith(bytes, "\xFF\xFE"))
+        return FromUtf16(bytes, true);
+    if (StartsWith(bytes, "\xFE\xFF"))
+        return m_rules.readsHighByteFirst ? FromUtf16(bytes, false) : std::wstring();
+    if (m_rules.readsUtf8Mark && StartsWith(bytes, "\xEF\xBB\xBF"))
+        return Utf8ToWide(bytes.substr(3));
+    return AnsiToWide(bytes);
+}
+
+void ReferenceLanguageText::AddLines(const std::wstring& text)
+{
     std::wstring line;
     for (std::size_t i = 0; i <= text.size(); ++i)
     {
@@ -127,20 +142,55 @@ std::vector<ReferenceLanguageText::Line> ReferenceLanguageText::LinesOf(const st
             line += text[i];
             continue;
         }
-        if (!WithoutBlanks(line).empty())
-            lines.push_back(LineOf(WithoutBlanks(line)));
+        AddLine(Without(m_rules.blanks, line));
         line.clear();
     }
-    return lines;
 }
 
-ReferenceLanguageText::Line ReferenceLanguageText::LineOf(const std::wstring& text)
+void ReferenceLanguageText::AddLine(const std::wstring& text)
 {
-    const std::size_t bracket = text.find_last_of(L']');
-    if (text[0] == L'[' && bracket != std::wstring::npos)
-        return {Line::Kind::Section, text.substr(1, bracket - 1), false, {}};
+    if (text.empty() || (text[0] == L';' && !m_rules.commentsAreKeys))
+        return;
+    const auto shown = [this](const std::wstring& part) { return BeforeNul(Without(m_rules.blanks, part)); };
+    const std::size_t end = EndOfSectionName(text);
+    if (end != std::wstring::npos)
+        return m_lines.push_back({Line::Kind::Section, shown(text.substr(1, end - 1)), false, {}});
     const std::size_t equals = text.find(L'=');
     if (equals == std::wstring::npos)
-        return {Line::Kind::Key, text, false, {}};
-    return {Line::Kind::Key, text.substr(0, equals), true, BeforeNul(WithoutBlanks(text.substr(equals + 1)))};
+        return m_lines.push_back({Line::Kind::Key, shown(text), false, {}});
+    m_lines.push_back({Line::Kind::Key, shown(text.substr(0, equals)), true, shown(text.substr(equals + 1))});
+}
+
+// npos where the line is no section.
+std::size_t ReferenceLanguageText::EndOfSectionName(const std::wstring& line) const
+{
+    if (line[0] != L'[')
+        return std::wstring::npos;
+    if (m_rules.lastBracketCloses)
+        return line.rfind(L']');
+    const std::size_t bracket = line.find(L']');
+    return bracket == std::wstring::npos ? line.size() : bracket;
+}
+
+bool ReferenceLanguageText::IsAsked(const std::wstring& name, const std::wstring& asked) const
+{
+    return SameName(name, Without(m_rules.askedBlanks, BeforeNul(asked)));
+}
+
+std::wstring ReferenceLanguageText::DefaultOf(const std::wstring& text) const
+{
+    const std::size_t least = m_rules.defaultLosesQuotes ? 1 : 0;
+    std::wstring result = text;
+    while (result.size() > least && result.back() == L' ')
+        result.pop_back();
+    return m_rules.defaultLosesQuotes ? Buffered(result) : result.substr(0, 1023);
+}
+
+// A buffer holds 1023 characters. Where the closing quote is taken off after the cut, and stood right behind the last
+// character that fits, that character goes instead of it.
+std::wstring ReferenceLanguageText::Buffered(const std::wstring& value) const
+{
+    const std::wstring text = WithoutQuotes(value);
+    const bool losesMore = m_rules.cutsBeforeClosingQuote && IsQuoted(value) && text.size() == 1023;
+    return text.substr(0, losesMore ? 1022 : 1023);
 }

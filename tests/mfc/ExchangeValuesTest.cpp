@@ -1,6 +1,7 @@
 // What the single exchange and validation routines read and write.
 #include "ExchangeDialog.h"
 #include "MessageBoxes.h"
+#include "tests/support/RuntimeLocale.h"
 
 #include <gtest/gtest.h>
 
@@ -186,6 +187,92 @@ TEST_F(ExchangeValues, FloatIsShownWithThreeExponentDigits)
     EXPECT_EQ(L"0.0001", Shown(0.0001f));
     EXPECT_EQ(L"1e-005", Shown(0.00001f));
 }
+
+// Numbers where another module of the process has set a locale with a decimal comma.
+
+class GermanRuntime : public ExchangeValues
+{
+protected:
+    void SetUp() override
+    {
+        ExchangeValues::SetUp();
+        ASSERT_EQ(",", m_german.DecimalPoint());
+    }
+
+private:
+    RuntimeLocale m_german{"German"};
+};
+
+TEST_F(GermanRuntime, ShowsFloatsWithAPoint)
+{
+    EXPECT_EQ(L"0.5", Shown(0.5f));
+    EXPECT_EQ(L"-0.333333", Shown(-1.0f / 3));
+    EXPECT_EQ(L"1.5e-005", Shown(0.000015f));
+    EXPECT_EQ(L"1234", Shown(1234.0f));
+}
+
+TEST_F(GermanRuntime, ReadsFloatsWithAPoint)
+{
+    for (const FloatCase& c : {FloatCase{L"0.5", 0.5f}, FloatCase{L" -1.5 ", -1.5f}, FloatCase{L"1.5E-2", 0.015f},
+                               FloatCase{L".5", 0.5f}, FloatCase{L"7", 7}})
+    {
+        float value = -77;
+        EXPECT_TRUE(afx::ParseFloat(c.text, value)) << c.text;
+        EXPECT_EQ(c.value, value);
+    }
+}
+
+TEST_F(GermanRuntime, ReadsWhatItShows)
+{
+    float value = 0.5f;
+    EXPECT_TRUE(Exchange(FALSE, value));
+    value = -77;
+    EXPECT_TRUE(afx::ParseFloat(dialog.Text(kEdit).c_str(), value)) << dialog.Text(kEdit);
+    EXPECT_EQ(0.5f, value);
+}
+
+TEST_F(GermanRuntime, RefusesWhatIsRefusedElsewhere)
+{
+    float value = -77;
+    for (const wchar_t* const text : {L"0,5", L",5", L"1.5.1", L"1,000.5", L".", L"1.5mm"})
+        EXPECT_FALSE(afx::ParseFloat(text, value)) << text;
+    EXPECT_EQ(-77, value);
+}
+
+TEST_F(GermanRuntime, TakesWholeNumbersAsElsewhere)
+{
+    int value = -77;
+    EXPECT_FALSE(afx::ParseInt(L"1.000", value));
+    EXPECT_FALSE(afx::ParseInt(L"1,5", value));
+    EXPECT_TRUE(afx::ParseInt(L" -1000 ", value));
+    EXPECT_EQ(-1000, value);
+    EXPECT_EQ(L"1234567", Shown(1234567));
+}
+
+// Blanks around a number, as any locale has them.
+class BlankAroundNumber : public testing::TestWithParam<const char*>
+{
+};
+
+TEST_P(BlankAroundNumber, IsAllowed)
+{
+    const RuntimeLocale locale(GetParam());
+    for (wchar_t blank : {L' ', L'\t', L'\n', L'\v', L'\f', L'\r', L'\x85', L'\xA0', L'\x2003', L'\x3000'})
+    {
+        const std::wstring text = {blank, L'4', L'2', blank};
+        float real = 0;
+        EXPECT_TRUE(afx::ParseFloat(text.c_str(), real)) << static_cast<int>(blank);
+        EXPECT_EQ(42.0f, real);
+        int whole = 0;
+        EXPECT_TRUE(afx::ParseInt(text.c_str(), whole)) << static_cast<int>(blank);
+        EXPECT_EQ(42, whole);
+        CString trimmed(text);
+        EXPECT_STREQ(L"42", trimmed.Trim()) << static_cast<int>(blank);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, BlankAroundNumber, testing::Values("C", "German", "Chinese"),
+                         [](const auto& test) { return std::string(test.param); });
 
 // Texts
 

@@ -1,10 +1,13 @@
 #include "TestWindow.h"
+#include "tests/support/ImportHook.h"
 
 #include <afxpropertygridctrl.h>
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdlib>
+#include <new>
 #include <string>
 #include <vector>
 
@@ -762,5 +765,85 @@ TEST_F(PropertyGridColours, SelectionShowsWhereTheFocusIs)
     EXPECT_EQ(0xC4C4C4u, At(x, name.y));
     grid.EnableWindow(FALSE);
     EXPECT_EQ(0xE1E1E1u, At(x, name.y));
+}
+// Blocks of memory that are in use. One allocation fails where it is told to.
+int blocksInUse;
+int allocationsToFailure;
+decltype(&std::malloc) allocate;
+decltype(&std::free) release;
+
+void* Allocate(std::size_t size)
+{
+    void* block = allocationsToFailure > 0 && --allocationsToFailure == 0 ? nullptr : allocate(size);
+    blocksInUse += block ? 1 : 0;
+    return block;
+}
+
+void Release(void* block)
+{
+    blocksInUse -= block ? 1 : 0;
+    release(block);
+}
+
+class MemoryWatch
+{
+public:
+    MemoryWatch()
+    {
+        blocksInUse = 0;
+        allocate = m_malloc.Original<decltype(allocate)>();
+        release = m_free.Original<decltype(release)>();
+    }
+
+private:
+    ImportHook m_malloc{GetModuleHandleW(nullptr), "malloc", reinterpret_cast<const void*>(&Allocate)};
+    ImportHook m_free{GetModuleHandleW(nullptr), "free", reinterpret_cast<const void*>(&Release)};
+};
+
+// Whether the memory held out.
+bool AddLongRow(CMFCPropertyGridCtrl& grid, int failure)
+{
+    auto* property = new CMFCPropertyGridProperty(L"Row", L"");
+    property->SetValue(L"A value that needs memory of its own");
+    allocationsToFailure = failure;
+    try
+    {
+        grid.AddProperty(property);
+    }
+    catch (const std::bad_alloc&)
+    {
+        return false;
+    }
+    allocationsToFailure = 0;
+    return true;
+}
+
+// The run-time library keeps some memory from the first exception of a thread on.
+void ThrowFirst()
+{
+    try
+    {
+        throw std::bad_alloc();
+    }
+    catch (const std::bad_alloc&)
+    {
+    }
+}
+
+TEST(PropertyGridMemory, IsGivenBackWhereItDoesNotSufficeForARow)
+{
+    ThrowFirst();
+    int failure = 0;
+    for (bool added = false; !added;)
+    {
+        const MemoryWatch watch;
+        {
+            CMFCPropertyGridCtrl grid;
+            added = AddLongRow(grid, ++failure);
+            EXPECT_EQ(grid.GetPropertyCount(), added ? 1 : 0);
+        }
+        EXPECT_EQ(blocksInUse, 0) << "allocation " << failure;
+    }
+    EXPECT_GT(failure, 2);
 }
 } // namespace

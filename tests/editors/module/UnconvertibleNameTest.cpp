@@ -1,20 +1,33 @@
 #include "tests/editors/fixtures/FactorySchemeFixture.h"
 #include "tests/editors/fixtures/PrintModeFixture.h"
 #include "tests/editors/fixtures/UserSchemeFixture.h"
-#include "tests/support/ThreadLocale.h"
+#include "tests/support/ImportHook.h"
+
+#include <cwchar>
 
 namespace
 {
-// The language has no code page of its own, so that its texts are narrowed as UTF-8. These characters take three bytes
-// each there, and a conversion has room for two.
-constexpr LCID kHindi = 0x0439;
-constexpr wchar_t kHindiName[] = L"मुद्रण";
+constexpr wchar_t kName[] = L"Unconvertible";
+decltype(&WideCharToMultiByte) narrow;
+
+// No code page fails for a name that an operator can type, so the system's call does.
+int WINAPI NarrowAllButTheName(UINT codePage, DWORD flags, const wchar_t* text, int size, char* target, int room,
+                               const char* standIn, BOOL* usedStandIn)
+{
+    if (text && std::wcscmp(text, kName) == 0)
+        return 0;
+    return narrow(codePage, flags, text, size, target, room, standIn, usedStandIn);
+}
 
 template <class Fixture>
 class UnconvertibleName : public Fixture
 {
+protected:
+    UnconvertibleName() { narrow = m_hook.template Original<decltype(narrow)>(); }
+
 private:
-    ThreadLocale m_hindi{kHindi};
+    ImportHook m_hook{Library::Loaded().Module(), "WideCharToMultiByte",
+                      reinterpret_cast<const void*>(&NarrowAllButTheName)};
 };
 
 using UnconvertibleConfigurationName = UnconvertibleName<PrintModeFixture>;
@@ -26,7 +39,7 @@ TEST_F(UnconvertibleConfigurationName, OfANewOneReachesTheHostAsNull)
 {
     Run([](PrintModeEditor& editor) {
         const ConfigDialog dialog = editor.OpenAddConfig();
-        dialog.Type(IDC_EDIT_CFG_NAME, kHindiName);
+        dialog.Type(IDC_EDIT_CFG_NAME, kName);
         editor.Confirm(dialog);
         EXPECT_EQ(editor.Configs().RowCount(), 4);
         editor.Cancel();
@@ -38,7 +51,7 @@ TEST_F(UnconvertibleConfigurationName, OfARenamedOneReachesTheHostAsNullAndTheLi
 {
     Run([](PrintModeEditor& editor) {
         const ConfigDialog dialog = editor.OpenRename(1);
-        dialog.Type(IDC_EDIT_CFG_NAME, kHindiName);
+        dialog.Type(IDC_EDIT_CFG_NAME, kName);
         editor.Confirm(dialog);
         EXPECT_EQ(editor.Configs().Row(1), L" [720X1200][4C][2B]");
         editor.Cancel();
@@ -49,7 +62,7 @@ TEST_F(UnconvertibleConfigurationName, OfARenamedOneReachesTheHostAsNullAndTheLi
 TEST_F(UnconvertibleModeName, ReachesTheHostAsNull)
 {
     Run([](PrintModeEditor& editor) {
-        editor.Edit(IDC_EDIT_NAME).Type(kHindiName);
+        editor.Edit(IDC_EDIT_NAME).Type(kName);
         editor.SaveAndQuit();
     });
     EXPECT_EQ(ChangesWith("SetName"), Calls{"IPrintMode[0.0].SetName(null)"});
@@ -59,7 +72,7 @@ TEST_F(UnconvertibleModeName, ReachesTheHostAsNull)
 TEST_F(UnconvertibleFactorySchemeName, ReachesTheHostAsNull)
 {
     Run([](FactoryEditor& editor) {
-        editor.Edit(SchemePage::Common, IDC_EDIT_NAME).Type(kHindiName);
+        editor.Edit(SchemePage::Common, IDC_EDIT_NAME).Type(kName);
         editor.SaveAndQuit();
     });
     EXPECT_EQ(ChangesWith("SetName"), Calls{"IPrintScheme[0].SetName(null)"});
@@ -69,7 +82,7 @@ TEST_F(UnconvertibleUserSchemeName, ReachesTheHostAsNull)
 {
     Run([](UserEditor& editor) {
         editor.Schemes().ClickRow(kMine);
-        editor.Edit(SchemePage::Common, IDC_EDIT_NAME).Type(kHindiName);
+        editor.Edit(SchemePage::Common, IDC_EDIT_NAME).Type(kName);
         editor.SaveAndQuit();
     });
     EXPECT_EQ(ChangesWith("SetName"), Calls{"IUserScheme[0].SetName(null)"});
@@ -78,7 +91,7 @@ TEST_F(UnconvertibleUserSchemeName, ReachesTheHostAsNull)
 TEST_F(UnconvertibleUserSchemeName, OfANewSchemeReachesTheHostAsNullAndItsRowIsEmpty)
 {
     Run([](UserEditor& editor) {
-        editor.AddScheme(kHindiName);
+        editor.AddScheme(kName);
         EXPECT_EQ(editor.Schemes().Rows().back(), L"");
         editor.Cancel();
     });

@@ -1,4 +1,5 @@
 #include "tests/editors/fixtures/PrintModeFixture.h"
+#include "tests/support/RuntimeLocale.h"
 
 namespace
 {
@@ -353,5 +354,48 @@ TEST_F(PrintModeCommonPage, BehavesWithoutInkGroups)
         editor.SaveAndQuit();
     });
     EXPECT_TRUE(Mode(0, 0).smallDotCompensation.empty());
+}
+// The C library's locale is the process's: a host, or another of its modules, may have set it.
+class GermanPrintModeCommonPage : public PrintModeCommonPage
+{
+protected:
+    GermanPrintModeCommonPage() { FirstMode().smallDotCompensation = {0.5f, 0.25f, 0, 0}; }
+
+private:
+    RuntimeLocale m_german{"German"};
+};
+
+TEST_F(GermanPrintModeCommonPage, ShowsAndStoresANumberWithAPoint)
+{
+    Run([this](PrintModeEditor& editor) {
+        EXPECT_EQ(editor.Edit(IDC_EDIT_SMALL).Text(), L"0.5");
+        editor.Edit(IDC_EDIT_SMALL).Type(L"1.5");
+        editor.Op().Key(VK_TAB);
+        EXPECT_EQ(NewChanges().back(), "IPrintMode[0.0].SetSmallDotCompensation(1.5, 0)");
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(Mode(0, 0).smallDotCompensation.at(0), 1.5f);
+}
+
+TEST_F(GermanPrintModeCommonPage, LeavesANumberThatIsNotTouched)
+{
+    Run([](PrintModeEditor& editor) {
+        editor.Edit(IDC_EDIT_SMALL).Click();
+        editor.Op().Key(VK_TAB);
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(Mode(0, 0).smallDotCompensation.at(0), 0.5f);
+}
+
+TEST_F(GermanPrintModeCommonPage, RefusesANumberWithAComma)
+{
+    Run([](PrintModeEditor& editor) {
+        editor.Edit(IDC_EDIT_SMALL).Type(L"1,5");
+        editor.Op().Key(VK_TAB);
+        editor.Op().AnswerMessageBox();
+        editor.Edit(IDC_EDIT_SMALL).Type(L"2");
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(Mode(0, 0).smallDotCompensation.at(0), 2.0f);
 }
 } // namespace
