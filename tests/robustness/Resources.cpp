@@ -1,5 +1,7 @@
 #include "tests/robustness/Resources.h"
 
+#include "tests/support/WineVersion.h"
+
 #include <cstdint>
 #include <stdexcept>
 #include <vector>
@@ -8,10 +10,16 @@
 
 extern "C" PVOID NTAPI RtlGetCurrentPeb();
 
-// Wine 8 gives 0 for GetGuiResources and GetProcessHandleCount, so the objects are counted where it keeps them: GDI's
-// in the table that a process shares with the system, handles in the system's list of all, windows and menus by asking.
+// Wine 8 gives 0 for GetGuiResources and GetProcessHandleCount, so there the objects are counted where it keeps them:
+// GDI's in the table that a process shares with the system, handles in the system's list of all, menus by asking.
 namespace
 {
+bool IsWine()
+{
+    static const bool isWine = WineVersion() > 0;
+    return isWine;
+}
+
 #if defined(_WIN64)
 constexpr std::size_t kGdiTableInPeb = 0xF8;
 #else
@@ -31,7 +39,7 @@ struct GdiEntry
 };
 static_assert(sizeof(GdiEntry) == 24);
 
-long CountGdiObjects()
+long CountGdiObjectsOfWine()
 {
     const auto* peb = reinterpret_cast<const char*>(RtlGetCurrentPeb());
     const auto* table = *reinterpret_cast<GdiEntry* const*>(peb + kGdiTableInPeb);
@@ -39,6 +47,11 @@ long CountGdiObjects()
     for (int i = 0; table && i < kGdiHandles; ++i)
         count += table[i].type != 0;
     return count;
+}
+
+long CountGdiObjects()
+{
+    return IsWine() ? CountGdiObjectsOfWine() : static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
 }
 
 BOOL CALLBACK CountOne(HWND, LPARAM count)
@@ -63,13 +76,20 @@ long CountWindows()
     return count;
 }
 
-long CountMenus()
+long CountMenusOfWine()
 {
     constexpr UINT_PTR first = 0x20, last = 0xFFEE; // of user handles, without their upper halves
     long count = 0;
     for (UINT_PTR handle = first; handle <= last; handle += 2)
         count += IsMenu(reinterpret_cast<HMENU>(handle)) != FALSE;
     return count;
+}
+
+// Windows counts menus together with all that belongs to windows: hooks, cursors, tables of keys.
+long CountMenus(long windows)
+{
+    return IsWine() ? CountMenusOfWine()
+                    : static_cast<long>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS)) - windows;
 }
 
 struct SystemHandle
@@ -82,7 +102,7 @@ struct SystemHandle
     ULONG access;
 };
 
-long CountHandles()
+long CountHandlesOfWine()
 {
     constexpr auto allHandles = static_cast<SYSTEM_INFORMATION_CLASS>(16);
     std::vector<std::uintptr_t> buffer(0x40000);
@@ -95,6 +115,13 @@ long CountHandles()
     for (ULONG i = 0; i < all; ++i)
         count += handles[i].process == GetCurrentProcessId();
     return count;
+}
+
+long CountHandles()
+{
+    DWORD count = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &count);
+    return IsWine() ? CountHandlesOfWine() : static_cast<long>(count);
 }
 
 long CountHeapBlocks()
@@ -112,7 +139,8 @@ long CountHeapBlocks()
 
 Resources Resources::Held()
 {
-    return {CountGdiObjects(), CountWindows(), CountMenus(), CountHandles(), CountHeapBlocks()};
+    const long windows = CountWindows();
+    return {CountGdiObjects(), windows, CountMenus(windows), CountHandles(), CountHeapBlocks()};
 }
 
 Resources operator-(const Resources& left, const Resources& right)
