@@ -1,3 +1,4 @@
+#include "tests/support/FailurePictures.h"
 #include "tests/support/FaultReport.h"
 
 #include <cstdio>
@@ -9,5 +10,6 @@ int main(int argc, char** argv)
     // A test that ends the whole program must not take the names of those before it along.
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     testing::InitGoogleTest(&argc, argv);
+    SaveFailurePictures();
     return RUN_ALL_TESTS();
 }
