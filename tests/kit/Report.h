@@ -1,0 +1,8 @@
+#pragma once
+
+#include "tests/kit/Results.h"
+
+#include <string>
+
+// One page of HTML that needs no other file.
+std::string ReportOf(const std::vector<ProgramResult>& programs, const Counts& counts);
