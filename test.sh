@@ -161,6 +161,7 @@ count_checks() {
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
         count_check "second build of Quorvane.dll for $arch" "$project/tools/checks/check-same-build.sh" "$arch"
+        ! can_run "$arch" || count_check "test kit for $arch" "$project/tools/checks/check-test-kit.sh" "$arch"
     done
 }
 
