@@ -22,8 +22,8 @@ struct AfxState
 
 AfxState& AfxGetState();
 
-// The window that a modal window of the framework belongs to: the innermost running modal dialog, else the active
-// window's top-level window with its last pop-up.
+// The window that a modal window of the framework belongs to: the given parent's, else the innermost running modal
+// dialog, else the active window's, else that of any window that the thread shows. Where it has pop-ups, the last one.
 HWND AfxGetModalOwner(CWnd* parent);
 
 // Whether the message comes from the keyboard or the mouse.

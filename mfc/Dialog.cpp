@@ -1,5 +1,6 @@
 #include "AfxState.h"
 #include "CaughtException.h"
+#include "DisabledWindows.h"
 
 #include <algorithm>
 
@@ -10,31 +11,6 @@ END_MESSAGE_MAP()
 
 namespace
 {
-// Keeps the owner of a modal dialog disabled; gives it back before the dialog's window dies, because the system looks
-// for the next window to activate while the dialog is being destroyed.
-class CDisabledOwner
-{
-public:
-    explicit CDisabledOwner(HWND window) : m_hWnd(window && ::IsWindowEnabled(window) ? window : nullptr)
-    {
-        if (m_hWnd)
-            ::EnableWindow(m_hWnd, FALSE);
-    }
-    ~CDisabledOwner() { Enable(); }
-    CDisabledOwner(const CDisabledOwner&) = delete;
-    CDisabledOwner& operator=(const CDisabledOwner&) = delete;
-
-    void Enable()
-    {
-        if (m_hWnd)
-            ::EnableWindow(m_hWnd, TRUE);
-        m_hWnd = nullptr;
-    }
-
-private:
-    HWND m_hWnd;
-};
-
 class CRunningDialog
 {
 public:
@@ -125,7 +101,8 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 INT_PTR CDialog::DoModal()
 {
     HWND owner = AfxGetModalOwner(m_pParent);
-    CDisabledOwner disabled(owner);
+    CDisabledWindows disabled;
+    disabled.Disable(owner);
     m_bModal = true;
     m_bRunning = true;
     m_nModalResult = -1;
