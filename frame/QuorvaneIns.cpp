@@ -8,6 +8,26 @@
 
 namespace
 {
+volatile LONG isEditorOpen = 0; // of any object, on any thread
+
+class COpenEditor
+{
+public:
+    COpenEditor() : m_bIsOnly(::InterlockedExchange(&isEditorOpen, 1) == 0) {}
+    ~COpenEditor()
+    {
+        if (m_bIsOnly)
+            ::InterlockedExchange(&isEditorOpen, 0);
+    }
+    COpenEditor(const COpenEditor&) = delete;
+    COpenEditor& operator=(const COpenEditor&) = delete;
+
+    bool IsOnly() const { return m_bIsOnly; }
+
+private:
+    bool m_bIsOnly;
+};
+
 template <class Dialog>
 void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDir)
 {
@@ -21,6 +41,9 @@ template <class Dialog>
 std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
 {
     if (!data || !control)
+        return 0;
+    const COpenEditor open;
+    if (!open.IsOnly())
         return 0;
     try
     {
