@@ -14,6 +14,8 @@ struct AfxState
     std::vector<HWND> modalDialogs; // running modal dialogs, innermost last
     HWND heldWindow = nullptr;      // window whose control notifications are held back by UpdateData
     MSG current = {};               // message being handled, for CWnd::Default
+    MSG filtered = {};              // message that the host's filters have been asked about
+    HHOOK filterHook = nullptr;     // keeps it from them while they would be asked again
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
     CWinApp* app = nullptr;

@@ -2,7 +2,7 @@
 #include "CaughtException.h"
 #include "DisabledWindows.h"
 
-#include <algorithm>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
@@ -50,6 +50,49 @@ bool PreTranslate(MSG& msg)
             return true;
     }
     return false;
+}
+
+// The dialog manager has the filters asked again. While an object of this class lives, they do not hear of it: the
+// newest hook is asked first, and it keeps the one message to itself.
+class CAskedFilters
+{
+public:
+    explicit CAskedFilters(const MSG& msg)
+    {
+        Remove();
+        AfxState& state = AfxGetState();
+        state.filtered = msg;
+        state.filterHook = ::SetWindowsHookEx(WH_MSGFILTER, &Keep, nullptr, ::GetCurrentThreadId());
+    }
+    ~CAskedFilters() { Remove(); }
+    CAskedFilters(const CAskedFilters&) = delete;
+    CAskedFilters& operator=(const CAskedFilters&) = delete;
+
+private:
+    static void Remove()
+    {
+        if (HHOOK hook = std::exchange(AfxGetState().filterHook, nullptr))
+            ::UnhookWindowsHookEx(hook);
+    }
+
+    // Handling the message may begin another loop, so the hook goes as soon as it has done its work.
+    static LRESULT CALLBACK Keep(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const MSG& msg = *reinterpret_cast<const MSG*>(lParam);
+        const MSG& asked = AfxGetState().filtered;
+        const bool isSame = msg.hwnd == asked.hwnd && msg.message == asked.message && msg.wParam == asked.wParam &&
+                            msg.lParam == asked.lParam && msg.time == asked.time;
+        if (code != MSGF_DIALOGBOX || !isSame)
+            return ::CallNextHookEx(nullptr, code, wParam, lParam);
+        Remove();
+        return FALSE;
+    }
+};
+
+bool HandleAsDialog(HWND dialog, MSG* message)
+{
+    const CAskedFilters asked(*message);
+    return ::IsDialogMessage(dialog, message) != FALSE;
 }
 } // namespace
 
@@ -149,7 +192,7 @@ bool CDialog::PumpMessage()
         ::PostQuitMessage(static_cast<int>(msg.wParam)); // for the loop around this one
         return false;
     }
-    if (!PreTranslate(msg))
+    if (!::CallMsgFilter(&msg, MSGF_DIALOGBOX) && !PreTranslate(msg))
     {
         ::TranslateMessage(&msg);
         ::DispatchMessage(&msg);
@@ -168,7 +211,7 @@ void CDialog::EndDialog(int result)
 
 BOOL CDialog::PreTranslateMessage(MSG* message)
 {
-    return m_bModal && AfxIsInput(message->message) && ::IsDialogMessage(m_hWnd, message);
+    return m_bModal && AfxIsInput(message->message) && HandleAsDialog(m_hWnd, message);
 }
 
 BOOL CDialog::OnInitDialog()
