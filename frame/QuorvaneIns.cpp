@@ -5,54 +5,68 @@
 #include "dialogs/scheme/DlgPrintSchemeFcty.h"
 #include "dialogs/user/DlgPrintSchemeUser.h"
 #include "frame/ModalRunner.h"
+#include "mfc/WatchedCall.h"
 
 namespace
 {
-volatile LONG isEditorOpen = 0; // of any object, on any thread
+// The thread on which an editor is open, of whatever object; 0 for none.
+volatile LONG editorThread = 0;
 
-class COpenEditor
+void ReleaseEditor()
 {
-public:
-    COpenEditor() : m_bIsOnly(::InterlockedExchange(&isEditorOpen, 1) == 0) {}
-    ~COpenEditor()
+    ::InterlockedExchange(&editorThread, 0);
+}
+
+// Only one editor can be open. One of this thread that was cut off is open no longer.
+bool ClaimEditor()
+{
+    const auto thread = static_cast<LONG>(::GetCurrentThreadId());
+    LONG holder = ::InterlockedCompareExchange(&editorThread, thread, 0);
+    if (holder == thread)
     {
-        if (m_bIsOnly)
-            ::InterlockedExchange(&isEditorOpen, 0);
+        AfxUndoCutScopes();
+        holder = ::InterlockedCompareExchange(&editorThread, thread, 0);
     }
-    COpenEditor(const COpenEditor&) = delete;
-    COpenEditor& operator=(const COpenEditor&) = delete;
+    return holder == 0;
+}
 
-    bool IsOnly() const { return m_bIsOnly; }
-
-private:
-    bool m_bIsOnly;
+struct EditorCall
+{
+    IHostData& data;
+    IHostControl& control;
+    const wchar_t* languageDir;
 };
 
 template <class Dialog>
-void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDir)
+void RunEditor(const EditorCall& call)
 {
+    const CUndo release(&ReleaseEditor);
     Dialog dialog;
-    BeginEditorRun(data, control, languageDir);
+    BeginEditorRun(call.data, call.control, call.languageDir);
     RunModal(&dialog, L"Quorvane.dll");
 }
 
 // The host cannot catch this library's exceptions, so none may leave. The host sees a run that was closed.
 template <class Dialog>
-std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+void RunCall(void* call)
 {
-    if (!data || !control)
-        return 0;
-    const COpenEditor open;
-    if (!open.IsOnly())
-        return 0;
     try
     {
-        RunEditor<Dialog>(*data, *control, languageDir);
+        RunEditor<Dialog>(*static_cast<const EditorCall*>(call));
     }
     catch (...)
     {
         ::OutputDebugString(L"Quorvane: an exception ended the editor\n");
     }
+}
+
+template <class Dialog>
+std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
+{
+    if (!data || !control || !ClaimEditor())
+        return 0;
+    EditorCall call = {*data, *control, languageDir};
+    AfxCallWatched(&RunCall<Dialog>, &call);
     return 1;
 }
 } // namespace

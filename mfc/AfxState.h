@@ -7,15 +7,31 @@
 #include <unordered_map>
 #include <vector>
 
+struct AttachedObject
+{
+    CWnd* object;
+    WNDPROC super; // the procedure that the window had before
+};
+
+struct PendingUndo
+{
+    const CUndo* scope;
+    void (*function)(UndoData&);
+    UndoData data;
+};
+
 struct AfxState
 {
-    std::unordered_map<HWND, CWnd*> permanent;
+    std::unordered_map<HWND, AttachedObject> permanent;
     std::unordered_map<HWND, std::unique_ptr<CWnd>> temporary;
-    std::vector<HWND> modalDialogs; // running modal dialogs, innermost last
-    HWND heldWindow = nullptr;      // window whose control notifications are held back by UpdateData
-    MSG current = {};               // message being handled, for CWnd::Default
-    MSG filtered = {};              // message that the host's filters have been asked about
-    HHOOK filterHook = nullptr;     // keeps it from them while they would be asked again
+    std::vector<HWND> modalDialogs;    // running modal dialogs, innermost last
+    HWND heldWindow = nullptr;         // window whose control notifications are held back by UpdateData
+    MSG current = {};                  // message being handled, for CWnd::Default
+    MSG filtered = {};                 // message that the host's filters have been asked about
+    HHOOK filterHook = nullptr;        // keeps it from them while they would be asked again
+    std::vector<PendingUndo> undos;    // of the scopes that are entered, innermost last
+    std::vector<HWND> disabledWindows; // by the modal windows that are open, those of the innermost last
+    const void* undoneBelow = nullptr; // the end of the scopes that are being undone
     int waitCursors = 0;
     HCURSOR cursorBeforeWait = nullptr;
     CWinApp* app = nullptr;

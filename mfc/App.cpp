@@ -10,6 +10,9 @@ AfxState& AfxGetState()
     static AfxState state = [] {
         AfxState initial;
         initial.resources = AfxGetInstanceHandle();
+        // So that entering a scope needs no memory.
+        initial.undos.reserve(64);
+        initial.disabledWindows.reserve(64);
         return initial;
     }();
     return state;
@@ -113,18 +116,18 @@ int AfxMessageBox(const wchar_t* text, UINT type)
     const UINT icon = (type & MB_ICONMASK) ? 0 : MB_ICONEXCLAMATION;
     const CWinApp* app = AfxGetApp();
     HWND owner = AfxGetModalOwner(nullptr);
-    const CDisabledWindows others(owner);
+    const CDisabledWindows others(AfxEnabledWindows(owner));
     return ::MessageBox(owner, text, app ? app->m_pszAppName : L"", type | icon);
 }
 
-CWaitCursor::CWaitCursor()
+CWaitCursor::CWaitCursor() : m_end(&CWaitCursor::End)
 {
     AfxState& state = AfxGetState();
     if (state.waitCursors++ == 0)
         state.cursorBeforeWait = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
 }
 
-CWaitCursor::~CWaitCursor()
+void CWaitCursor::End()
 {
     AfxState& state = AfxGetState();
     if (--state.waitCursors == 0)

@@ -11,19 +11,30 @@ END_MESSAGE_MAP()
 
 namespace
 {
+// What a modal dialog disables. Its owner may be hidden.
+std::vector<HWND> WindowsBehind(HWND owner)
+{
+    std::vector<HWND> windows = AfxEnabledWindows(owner);
+    if (owner && ::IsWindowEnabled(owner))
+        windows.push_back(owner);
+    return windows;
+}
+
 class CRunningDialog
 {
 public:
-    explicit CRunningDialog(HWND window) { AfxGetState().modalDialogs.push_back(window); }
-    ~CRunningDialog()
+    explicit CRunningDialog(HWND window) : m_end(&CRunningDialog::End) { AfxGetState().modalDialogs.push_back(window); }
+
+private:
+    static void End()
     {
         AfxState& state = AfxGetState();
         state.modalDialogs.pop_back();
         if (state.modalDialogs.empty())
             state.temporary.clear();
     }
-    CRunningDialog(const CRunningDialog&) = delete;
-    CRunningDialog& operator=(const CRunningDialog&) = delete;
+
+    CUndo m_end;
 };
 
 // The windows from the message's target up to the innermost modal dialog; none when the target lies outside of it.
@@ -57,16 +68,13 @@ bool PreTranslate(MSG& msg)
 class CAskedFilters
 {
 public:
-    explicit CAskedFilters(const MSG& msg)
+    explicit CAskedFilters(const MSG& msg) : m_remove(&CAskedFilters::Remove)
     {
         Remove();
         AfxState& state = AfxGetState();
         state.filtered = msg;
         state.filterHook = ::SetWindowsHookEx(WH_MSGFILTER, &Keep, nullptr, ::GetCurrentThreadId());
     }
-    ~CAskedFilters() { Remove(); }
-    CAskedFilters(const CAskedFilters&) = delete;
-    CAskedFilters& operator=(const CAskedFilters&) = delete;
 
 private:
     static void Remove()
@@ -87,6 +95,8 @@ private:
         Remove();
         return FALSE;
     }
+
+    CUndo m_remove;
 };
 
 bool HandleAsDialog(HWND dialog, MSG* message)
@@ -144,8 +154,7 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 INT_PTR CDialog::DoModal()
 {
     HWND owner = AfxGetModalOwner(m_pParent);
-    CDisabledWindows disabled;
-    disabled.Disable(owner);
+    CDisabledWindows disabled(WindowsBehind(owner));
     m_bModal = true;
     m_bRunning = true;
     m_nModalResult = -1;
@@ -168,6 +177,7 @@ INT_PTR CDialog::DoModal()
 int CDialog::RunModalLoop(HWND owner)
 {
     const CRunningDialog running(m_hWnd);
+    const MSG current = AfxGetState().current;
     if (m_bRunning)
         ShowWindow(SW_SHOWNORMAL);
     bool tellIdle = true;
@@ -180,6 +190,8 @@ int CDialog::RunModalLoop(HWND owner)
         tellIdle = !idle;
         if (m_bRunning && !PumpMessage())
             return -1;
+        AfxUndoCutScopes();
+        AfxGetState().current = current;
     }
     return m_hWnd ? m_nModalResult : -1;
 }
@@ -192,6 +204,7 @@ bool CDialog::PumpMessage()
         ::PostQuitMessage(static_cast<int>(msg.wParam)); // for the loop around this one
         return false;
     }
+    AfxUndoCutScopes(); // a sent message may have been handled meanwhile
     if (!::CallMsgFilter(&msg, MSGF_DIALOGBOX) && !PreTranslate(msg))
     {
         ::TranslateMessage(&msg);

@@ -1,5 +1,7 @@
 #include "DisabledWindows.h"
 
+#include "AfxState.h"
+
 #include <commctrl.h>
 
 #include <algorithm>
@@ -42,30 +44,35 @@ bool IsOfThisThread(HWND window)
 {
     return ::GetWindowThreadProcessId(window, nullptr) == ::GetCurrentThreadId();
 }
-} // namespace
 
-CDisabledWindows::CDisabledWindows(HWND exempt)
+void EnableLast(size_t count)
 {
-    for (HWND window : WindowsForTheOperator())
-        if (window != exempt)
-            Disable(window);
-}
-
-void CDisabledWindows::Disable(HWND window)
-{
-    if (!window || !::IsWindowEnabled(window))
-        return;
-    m_vecWindows.push_back(window);
-    ::EnableWindow(window, FALSE);
-}
-
-void CDisabledWindows::Enable()
-{
-    const std::vector<HWND> windows = std::move(m_vecWindows);
-    m_vecWindows.clear();
-    for (HWND window : windows)
+    std::vector<HWND>& disabled = AfxGetState().disabledWindows;
+    for (; count > 0; --count)
+    {
+        HWND window = disabled.back();
+        disabled.pop_back();
         if (IsOfThisThread(window) && !::IsWindowEnabled(window))
             ::EnableWindow(window, TRUE);
+    }
+}
+} // namespace
+
+CDisabledWindows::CDisabledWindows(const std::vector<HWND>& windows)
+    : m_enable([count = windows.size()] { EnableLast(count); })
+{
+    std::vector<HWND>& disabled = AfxGetState().disabledWindows;
+    disabled.insert(disabled.end(), windows.begin(), windows.end());
+    for (HWND window : windows)
+        ::EnableWindow(window, FALSE);
+}
+
+std::vector<HWND> AfxEnabledWindows(HWND exempt)
+{
+    std::vector<HWND> windows = WindowsForTheOperator();
+    const auto isLeftOut = [exempt](HWND window) { return window == exempt || !::IsWindowEnabled(window); };
+    windows.erase(std::remove_if(windows.begin(), windows.end(), isLeftOut), windows.end());
+    return windows;
 }
 
 HWND AfxFindVisibleWindow()

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "Undo.h"
+
 #include <windows.h>
 
 #include <vector>
@@ -8,21 +10,19 @@
 class CDisabledWindows
 {
 public:
-    // All that the operator could use, but for one.
-    explicit CDisabledWindows(HWND exempt = nullptr);
-    ~CDisabledWindows() { Enable(); }
-    CDisabledWindows(const CDisabledWindows&) = delete;
-    CDisabledWindows& operator=(const CDisabledWindows&) = delete;
+    // Enabled ones.
+    explicit CDisabledWindows(const std::vector<HWND>& windows);
 
-    // One more, whether it can be seen or not.
-    void Disable(HWND window);
     // Gives back what was taken. To be called before the modal window dies, because the system looks for the next
     // window to activate while that one is being destroyed.
-    void Enable();
+    void Enable() { m_enable.Run(); }
 
 private:
-    std::vector<HWND> m_vecWindows; // those that were enabled
+    CUndo m_enable;
 };
+
+// The thread's windows that the operator can use, but for one.
+std::vector<HWND> AfxEnabledWindows(HWND exempt);
 
 // The thread's topmost window that the operator could use, an enabled one if there is any; null without one.
 HWND AfxFindVisibleWindow();
