@@ -1,5 +1,7 @@
 #pragma once
 
+#include "mfc/Undo.h"
+
 #include <windows.h>
 
 // While an object of this class exists, new windows get the version 6 controls that this library's manifest names.
@@ -8,12 +10,7 @@ class CCommonControls
 {
 public:
     CCommonControls();
-    ~CCommonControls();
-    CCommonControls(const CCommonControls&) = delete;
-    CCommonControls& operator=(const CCommonControls&) = delete;
 
 private:
-    HANDLE m_hContext;
-    ULONG_PTR m_nCookie = 0;
-    bool m_bActive = false;
+    CUndo m_deactivate;
 };

@@ -30,12 +30,8 @@ bool IsThreadPerMonitorAware()
 
 CDpiAwareness::CDpiAwareness()
 {
-    if (IsThreadPerMonitorAware())
-        m_hOld = SetContextOfThread(SYSTEM_AWARE);
-}
-
-CDpiAwareness::~CDpiAwareness()
-{
-    if (m_hOld)
-        SetContextOfThread(m_hOld);
+    if (!IsThreadPerMonitorAware())
+        return;
+    if (const HANDLE old = SetContextOfThread(SYSTEM_AWARE))
+        m_restore.emplace([old] { SetContextOfThread(old); });
 }

@@ -1,6 +1,8 @@
 #pragma once
 
-#include <windows.h>
+#include <afxwin.h>
+
+#include <optional>
 
 // While an object of this class exists, new windows of this thread keep to one scale. In a host that is aware of each
 // monitor's scale, the system would change the size of a dialog and its controls in the midst of a run, but not that of
@@ -9,10 +11,7 @@ class CDpiAwareness
 {
 public:
     CDpiAwareness();
-    ~CDpiAwareness();
-    CDpiAwareness(const CDpiAwareness&) = delete;
-    CDpiAwareness& operator=(const CDpiAwareness&) = delete;
 
 private:
-    HANDLE m_hOld = nullptr; // null where nothing was changed
+    std::optional<CUndo> m_restore; // nothing where nothing was changed
 };

@@ -11,13 +11,14 @@ namespace
 class CCurrentResources
 {
 public:
-    explicit CCurrentResources(HINSTANCE module) : m_hOld(AfxGetResourceHandle()) { AfxSetResourceHandle(module); }
-    ~CCurrentResources() { AfxSetResourceHandle(m_hOld); }
-    CCurrentResources(const CCurrentResources&) = delete;
-    CCurrentResources& operator=(const CCurrentResources&) = delete;
+    explicit CCurrentResources(HINSTANCE module)
+        : m_restore([old = AfxGetResourceHandle()] { AfxSetResourceHandle(old); })
+    {
+        AfxSetResourceHandle(module);
+    }
 
 private:
-    HINSTANCE m_hOld;
+    CUndo m_restore;
 };
 
 // Null if there is no such file. Then nothing is found under the null handle either, and no dialog appears.

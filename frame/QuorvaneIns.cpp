@@ -5,6 +5,7 @@
 #include "dialogs/scheme/DlgPrintSchemeFcty.h"
 #include "dialogs/user/DlgPrintSchemeUser.h"
 #include "frame/ModalRunner.h"
+#include "mfc/WatchedCall.h"
 
 #include <exception>
 #include <memory>
@@ -23,15 +24,57 @@ bool ProvideExceptionRecord()
     return true;
 }
 
-template <class Dialog>
-void RunEditor(IHostData& data, IHostControl& control, const wchar_t* languageDir)
+// The thread on which an editor is open, of whatever object; 0 for none.
+volatile LONG editorThread = 0;
+
+void ReleaseEditor()
 {
+    ::InterlockedExchange(&editorThread, 0);
+}
+
+// Only one editor can be open. One of this thread that was cut off is open no longer.
+bool ClaimEditor()
+{
+    const auto thread = static_cast<LONG>(::GetCurrentThreadId());
+    LONG holder = ::InterlockedCompareExchange(&editorThread, thread, 0);
+    if (holder == thread)
+    {
+        AfxUndoCutScopes();
+        holder = ::InterlockedCompareExchange(&editorThread, thread, 0);
+    }
+    return holder == 0;
+}
+
+struct EditorCall
+{
+    IHostData& data;
+    IHostControl& control;
+    const wchar_t* languageDir;
+};
+
+template <class Dialog>
+void RunEditor(const EditorCall& call)
+{
+    const CUndo release(&ReleaseEditor);
     Dialog dialog;
-    BeginEditorRun(data, control, languageDir);
+    BeginEditorRun(call.data, call.control, call.languageDir);
     RunModal(&dialog, L"Quorvane.dll");
 }
 
 // The host cannot catch this library's exceptions, so none may leave. The host sees a run that was closed.
+template <class Dialog>
+void RunCall(void* call)
+{
+    try
+    {
+        RunEditor<Dialog>(*static_cast<const EditorCall*>(call));
+    }
+    catch (...)
+    {
+        ::OutputDebugString(L"Quorvane: an exception ended the editor\n");
+    }
+}
+
 template <class Dialog>
 std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languageDir)
 {
@@ -39,14 +82,10 @@ std::int32_t Edit(IHostData* data, IHostControl* control, const wchar_t* languag
         return 0;
     if (!ProvideExceptionRecord())
         return 1;
-    try
-    {
-        RunEditor<Dialog>(*data, *control, languageDir);
-    }
-    catch (...)
-    {
-        ::OutputDebugString(L"Quorvane: an exception ended the editor\n");
-    }
+    if (!ClaimEditor())
+        return 0;
+    EditorCall call = {*data, *control, languageDir};
+    AfxCallWatched(&RunCall<Dialog>, &call);
     return 1;
 }
 } // namespace

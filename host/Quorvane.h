@@ -6,7 +6,8 @@
 /// Order of use:
 /// 1. Load "Quorvane.dll". It must lie beside the host's executable under this name.
 /// 2. Look up NewInterface and ReleaseInterface by their plain names, and call NewInterface.
-/// 3. Pass objects of your own, derived from IHostData and IHostControl, to the editor operations of IQuorvane.
+/// 3. Pass objects of your own, derived from IHostData and IHostControl, to the editor operations of IQuorvane. One
+///    editor can be open at a time: a second operation that is called meanwhile returns 0 and does nothing.
 /// 4. Call ReleaseInterface.
 ///
 /// Leave the library loaded until the process ends. Its load count rises by one with each editor run, and with each

@@ -1,4 +1,5 @@
 #include "AfxState.h"
+#include "DisabledWindows.h"
 
 #include <string>
 
@@ -9,6 +10,9 @@ AfxState& AfxGetState()
     static AfxState state = [] {
         AfxState initial;
         initial.resources = AfxGetInstanceHandle();
+        // So that entering a scope needs no memory.
+        initial.undos.reserve(64);
+        initial.disabledWindows.reserve(64);
         return initial;
     }();
     return state;
@@ -77,34 +81,53 @@ BOOL AfxRegisterClass(const WNDCLASS* windowClass)
     return TRUE;
 }
 
-HWND AfxGetModalOwner(CWnd* parent)
+namespace
 {
-    const AfxState& state = AfxGetState();
-    HWND window = parent ? parent->m_hWnd : nullptr;
-    if (!window && !state.modalDialogs.empty())
-        return state.modalDialogs.back();
-    if (!window)
-        window = ::GetActiveWindow();
-    if (!window)
-        return nullptr;
+HWND LastPopUpOf(HWND window)
+{
     return ::GetLastActivePopup(::GetAncestor(window, GA_ROOT));
 }
 
+// For a thread that has no active window, because the operator works in another program, say.
+HWND OwnerOfAnInactiveThread()
+{
+    HWND window = AfxFindVisibleWindow();
+    if (!window)
+        return nullptr;
+    HWND main = ::GetAncestor(window, GA_ROOTOWNER);
+    return LastPopUpOf(::IsWindowVisible(main) ? main : window);
+}
+} // namespace
+
+HWND AfxGetModalOwner(CWnd* parent)
+{
+    const AfxState& state = AfxGetState();
+    if (parent && parent->m_hWnd)
+        return LastPopUpOf(parent->m_hWnd);
+    if (!state.modalDialogs.empty())
+        return state.modalDialogs.back();
+    HWND active = ::GetActiveWindow();
+    return active ? LastPopUpOf(active) : OwnerOfAnInactiveThread();
+}
+
+// The owner is left to the system, which enables what it has disabled itself before the box is destroyed.
 int AfxMessageBox(const wchar_t* text, UINT type)
 {
     const UINT icon = (type & MB_ICONMASK) ? 0 : MB_ICONEXCLAMATION;
     const CWinApp* app = AfxGetApp();
-    return ::MessageBox(AfxGetModalOwner(nullptr), text, app ? app->m_pszAppName : L"", type | icon);
+    HWND owner = AfxGetModalOwner(nullptr);
+    const CDisabledWindows others(AfxEnabledWindows(owner));
+    return ::MessageBox(owner, text, app ? app->m_pszAppName : L"", type | icon);
 }
 
-CWaitCursor::CWaitCursor()
+CWaitCursor::CWaitCursor() : m_end(&CWaitCursor::End)
 {
     AfxState& state = AfxGetState();
     if (state.waitCursors++ == 0)
         state.cursorBeforeWait = ::SetCursor(::LoadCursor(nullptr, IDC_WAIT));
 }
 
-CWaitCursor::~CWaitCursor()
+void CWaitCursor::End()
 {
     AfxState& state = AfxGetState();
     if (--state.waitCursors == 0)

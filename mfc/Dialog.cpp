@@ -1,7 +1,8 @@
 #include "AfxState.h"
 #include "CaughtException.h"
+#include "DisabledWindows.h"
 
-#include <algorithm>
+#include <utility>
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
@@ -10,44 +11,30 @@ END_MESSAGE_MAP()
 
 namespace
 {
-// Keeps the owner of a modal dialog disabled; gives it back before the dialog's window dies, because the system looks
-// for the next window to activate while the dialog is being destroyed.
-class CDisabledOwner
+// What a modal dialog disables. Its owner may be hidden.
+std::vector<HWND> WindowsBehind(HWND owner)
 {
-public:
-    explicit CDisabledOwner(HWND window) : m_hWnd(window && ::IsWindowEnabled(window) ? window : nullptr)
-    {
-        if (m_hWnd)
-            ::EnableWindow(m_hWnd, FALSE);
-    }
-    ~CDisabledOwner() { Enable(); }
-    CDisabledOwner(const CDisabledOwner&) = delete;
-    CDisabledOwner& operator=(const CDisabledOwner&) = delete;
-
-    void Enable()
-    {
-        if (m_hWnd)
-            ::EnableWindow(m_hWnd, TRUE);
-        m_hWnd = nullptr;
-    }
-
-private:
-    HWND m_hWnd;
-};
+    std::vector<HWND> windows = AfxEnabledWindows(owner);
+    if (owner && ::IsWindowEnabled(owner))
+        windows.push_back(owner);
+    return windows;
+}
 
 class CRunningDialog
 {
 public:
-    explicit CRunningDialog(HWND window) { AfxGetState().modalDialogs.push_back(window); }
-    ~CRunningDialog()
+    explicit CRunningDialog(HWND window) : m_end(&CRunningDialog::End) { AfxGetState().modalDialogs.push_back(window); }
+
+private:
+    static void End()
     {
         AfxState& state = AfxGetState();
         state.modalDialogs.pop_back();
         if (state.modalDialogs.empty())
             state.temporary.clear();
     }
-    CRunningDialog(const CRunningDialog&) = delete;
-    CRunningDialog& operator=(const CRunningDialog&) = delete;
+
+    CUndo m_end;
 };
 
 // The windows from the message's target up to the innermost modal dialog; none when the target lies outside of it.
@@ -74,6 +61,48 @@ bool PreTranslate(MSG& msg)
             return true;
     }
     return false;
+}
+
+// The dialog manager has the filters asked again. While an object of this class lives, they do not hear of it: the
+// newest hook is asked first, and it keeps the one message to itself.
+class CAskedFilters
+{
+public:
+    explicit CAskedFilters(const MSG& msg) : m_remove(&CAskedFilters::Remove)
+    {
+        Remove();
+        AfxState& state = AfxGetState();
+        state.filtered = msg;
+        state.filterHook = ::SetWindowsHookEx(WH_MSGFILTER, &Keep, nullptr, ::GetCurrentThreadId());
+    }
+
+private:
+    static void Remove()
+    {
+        if (HHOOK hook = std::exchange(AfxGetState().filterHook, nullptr))
+            ::UnhookWindowsHookEx(hook);
+    }
+
+    // Handling the message may begin another loop, so the hook goes as soon as it has done its work.
+    static LRESULT CALLBACK Keep(int code, WPARAM wParam, LPARAM lParam)
+    {
+        const MSG& msg = *reinterpret_cast<const MSG*>(lParam);
+        const MSG& asked = AfxGetState().filtered;
+        const bool isSame = msg.hwnd == asked.hwnd && msg.message == asked.message && msg.wParam == asked.wParam &&
+                            msg.lParam == asked.lParam && msg.time == asked.time;
+        if (code != MSGF_DIALOGBOX || !isSame)
+            return ::CallNextHookEx(nullptr, code, wParam, lParam);
+        Remove();
+        return FALSE;
+    }
+
+    CUndo m_remove;
+};
+
+bool HandleAsDialog(HWND dialog, MSG* message)
+{
+    const CAskedFilters asked(*message);
+    return ::IsDialogMessage(dialog, message) != FALSE;
 }
 } // namespace
 
@@ -125,7 +154,7 @@ BOOL CDialog::Create(UINT templateId, CWnd* parent)
 INT_PTR CDialog::DoModal()
 {
     HWND owner = AfxGetModalOwner(m_pParent);
-    CDisabledOwner disabled(owner);
+    CDisabledWindows disabled(WindowsBehind(owner));
     m_bModal = true;
     m_bRunning = true;
     m_nModalResult = -1;
@@ -148,6 +177,7 @@ INT_PTR CDialog::DoModal()
 int CDialog::RunModalLoop(HWND owner)
 {
     const CRunningDialog running(m_hWnd);
+    const MSG current = AfxGetState().current;
     if (m_bRunning)
         ShowWindow(SW_SHOWNORMAL);
     bool tellIdle = true;
@@ -160,6 +190,8 @@ int CDialog::RunModalLoop(HWND owner)
         tellIdle = !idle;
         if (m_bRunning && !PumpMessage())
             return -1;
+        AfxUndoCutScopes();
+        AfxGetState().current = current;
     }
     return m_hWnd ? m_nModalResult : -1;
 }
@@ -172,7 +204,8 @@ bool CDialog::PumpMessage()
         ::PostQuitMessage(static_cast<int>(msg.wParam)); // for the loop around this one
         return false;
     }
-    if (!PreTranslate(msg))
+    AfxUndoCutScopes(); // a sent message may have been handled meanwhile
+    if (!::CallMsgFilter(&msg, MSGF_DIALOGBOX) && !PreTranslate(msg))
     {
         ::TranslateMessage(&msg);
         ::DispatchMessage(&msg);
@@ -191,7 +224,7 @@ void CDialog::EndDialog(int result)
 
 BOOL CDialog::PreTranslateMessage(MSG* message)
 {
-    return m_bModal && AfxIsInput(message->message) && ::IsDialogMessage(m_hWnd, message);
+    return m_bModal && AfxIsInput(message->message) && HandleAsDialog(m_hWnd, message);
 }
 
 BOOL CDialog::OnInitDialog()

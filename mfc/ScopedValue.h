@@ -1,16 +1,21 @@
 #pragma once
 
-// Gives a variable another value until the scope is left, by an exception too.
+#include "Undo.h"
+
+// Gives a variable another value until the scope is left. One that was cut off together with the scope is let alone.
 template <typename Value>
 class CScopedValue
 {
 public:
-    CScopedValue(Value& target, const Value& value) : m_target(target), m_old(target) { target = value; }
-    ~CScopedValue() { m_target = m_old; }
-    CScopedValue(const CScopedValue&) = delete;
-    CScopedValue& operator=(const CScopedValue&) = delete;
+    CScopedValue(Value& target, const Value& value)
+        : m_restore([&target, old = target] {
+              if (!AfxIsBeingUndone(&target))
+                  target = old;
+          })
+    {
+        target = value;
+    }
 
 private:
-    Value& m_target;
-    Value m_old;
+    CUndo m_restore;
 };

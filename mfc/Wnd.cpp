@@ -2,6 +2,8 @@
 #include "CaughtException.h"
 #include "ScopedValue.h"
 
+#include <utility>
+
 namespace
 {
 bool IsNotification(UINT message)
@@ -10,8 +12,23 @@ bool IsNotification(UINT message)
 }
 } // namespace
 
+// The system's frames below cannot be unwound: an exception of a host's callback ends here.
+LRESULT AfxCallObject(CWnd& object, const MSG& msg)
+{
+    try
+    {
+        return object.WindowProc(msg.message, msg.wParam, msg.lParam);
+    }
+    catch (...)
+    {
+        AfxTraceCaught("the window procedure, message", msg.message);
+        return 0;
+    }
+}
+
 LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam)
 {
+    AfxUndoCutScopes(); // the object may have been in one of them
     CWnd* object = CWnd::FromHandlePermanent(window);
     if (!object)
         return ::DefWindowProc(window, message, wParam, lParam);
@@ -20,17 +37,10 @@ LRESULT CALLBACK AfxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lPa
     msg.message = message;
     msg.wParam = wParam;
     msg.lParam = lParam;
-    const CScopedValue<MSG> current(AfxGetState().current, msg);
-    // The system's frames below cannot be unwound: an exception of a host's callback ends here.
-    try
-    {
-        return object->WindowProc(message, wParam, lParam);
-    }
-    catch (...)
-    {
-        AfxTraceCaught("the window procedure, message", message);
-        return 0;
-    }
+    const MSG outer = std::exchange(AfxGetState().current, msg);
+    const LRESULT result = AfxCallObject(*object, msg);
+    AfxGetState().current = outer;
+    return result;
 }
 
 CWnd::~CWnd()
@@ -42,7 +52,7 @@ CWnd* CWnd::FromHandlePermanent(HWND window)
 {
     const auto& permanent = AfxGetState().permanent;
     const auto it = permanent.find(window);
-    return it == permanent.end() ? nullptr : it->second;
+    return it == permanent.end() ? nullptr : it->second.object;
 }
 
 CWnd* CWnd::FromHandle(HWND window)
@@ -78,20 +88,28 @@ BOOL CWnd::SubclassWindow(HWND window)
     if (!window || m_hWnd || FromHandlePermanent(window))
         return FALSE;
     m_hWnd = window;
-    AfxGetState().permanent[window] = this;
-    m_pSuper =
+    AttachedObject& attached = AfxGetState().permanent[window];
+    attached.object = this;
+    m_pSuper = attached.super =
         reinterpret_cast<WNDPROC>(::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&AfxWndProc)));
     return TRUE;
+}
+
+void CWnd::Detach(HWND window)
+{
+    auto& permanent = AfxGetState().permanent;
+    const auto it = permanent.find(window);
+    if (it == permanent.end())
+        return;
+    ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(it->second.super));
+    permanent.erase(it);
 }
 
 HWND CWnd::UnsubclassWindow()
 {
     HWND window = m_hWnd;
     if (window && m_pSuper)
-    {
-        ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(m_pSuper));
-        AfxGetState().permanent.erase(window);
-    }
+        Detach(window);
     m_pSuper = nullptr;
     m_hWnd = nullptr;
     return window;

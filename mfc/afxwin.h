@@ -16,6 +16,8 @@
 #include <afxmsg_.h>
 #include <afxstr.h>
 
+#include "Undo.h"
+
 #include <unordered_map>
 
 class CMenu;
@@ -39,6 +41,8 @@ public:
                   CWnd* parent, UINT id);
     BOOL SubclassWindow(HWND window);
     HWND UnsubclassWindow();
+    // Takes a window from its object without touching the object, which may exist no longer.
+    static void Detach(HWND window);
     virtual BOOL DestroyWindow();
 
     CWnd* GetDlgItem(int id) const { return FromHandle(ChildById(id)); }
@@ -90,7 +94,7 @@ public:
 
 protected:
     friend class CDialog;
-    friend LRESULT CALLBACK AfxWndProc(HWND, UINT, WPARAM, LPARAM);
+    friend LRESULT AfxCallObject(CWnd&, const MSG&);
 
     virtual void DoDataExchange(CDataExchange* exchange);
     virtual LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam);
@@ -301,9 +305,11 @@ class CWaitCursor
 {
 public:
     CWaitCursor();
-    ~CWaitCursor();
-    CWaitCursor(const CWaitCursor&) = delete;
-    CWaitCursor& operator=(const CWaitCursor&) = delete;
+
+private:
+    static void End();
+
+    CUndo m_end;
 };
 
 class CWinApp

@@ -12,6 +12,12 @@ bool HoldsFocus(HWND window)
 }
 } // namespace
 
+CRedrawOff::CRedrawOff(CWnd& list)
+    : m_redrawOn([window = list.m_hWnd] { ::SendMessage(window, WM_SETREDRAW, TRUE, 0); })
+{
+    list.SetRedraw(FALSE);
+}
+
 void EnableControl(CWnd& control, bool enable)
 {
     const HWND window = control.GetSafeHwnd();

@@ -21,13 +21,10 @@ void ShowText(CWnd& control, const wchar_t* text);
 class CRedrawOff
 {
 public:
-    explicit CRedrawOff(CWnd& list) : m_list(list) { m_list.SetRedraw(FALSE); }
-    ~CRedrawOff() { m_list.SetRedraw(TRUE); }
-    CRedrawOff(const CRedrawOff&) = delete;
-    CRedrawOff& operator=(const CRedrawOff&) = delete;
+    explicit CRedrawOff(CWnd& list);
 
 private:
-    CWnd& m_list;
+    CUndo m_redrawOn;
 };
 
 template <class List, class Fill>

@@ -4,6 +4,7 @@
 #include "dialogs/data/CustomEclosion.h"
 #include "dialogs/data/EclosionLevel.h"
 #include "dialogs/data/HostRun.h"
+#include "mfc/ScopedValue.h"
 #include "resources/resource.h"
 
 namespace
@@ -19,19 +20,6 @@ bool IsMove(UINT scrollCode)
 {
     return scrollCode <= TB_PAGEDOWN || scrollCode == TB_THUMBTRACK;
 }
-
-// True for as long as it lives.
-class CRaisedFlag
-{
-public:
-    explicit CRaisedFlag(bool& flag) : m_bFlag(flag) { m_bFlag = true; }
-    ~CRaisedFlag() { m_bFlag = false; }
-    CRaisedFlag(const CRaisedFlag&) = delete;
-    CRaisedFlag& operator=(const CRaisedFlag&) = delete;
-
-private:
-    bool& m_bFlag;
-};
 } // namespace
 
 CDlgPrintSchemeCustomEclosion::CDlgPrintSchemeCustomEclosion()
@@ -119,7 +107,7 @@ void CDlgPrintSchemeCustomEclosion::OnOK()
 {
     {
         const CWaitCursor wait;
-        const CRaisedFlag saving(m_bSaving);
+        const CScopedValue<bool> saving(m_bSaving, true);
         HostControl().SaveCustomEclosionSet();
     }
     CDialogEx::OnOK();

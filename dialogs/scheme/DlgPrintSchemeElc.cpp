@@ -5,6 +5,7 @@
 #include "dialogs/data/Machine.h"
 #include "dialogs/scheme/DlgPrintSchemeCustomEclosion.h"
 #include "frame/ModalRunner.h"
+#include "mfc/ScopedValue.h"
 #include "resources/resource.h"
 
 namespace
@@ -121,9 +122,10 @@ void CDlgPrintSchemeElc::LoadFromScheme()
     if (!WithScheme([this](auto& scheme) { LoadFields(scheme); }))
         m_cmbEclosionLevel.SetCurSel(0);
     m_sliderCustomRange.SetPos(m_nCustomRange);
-    m_bOpenCustomOnType = false;
-    OnTypeChange();
-    m_bOpenCustomOnType = true;
+    {
+        const CScopedValue<bool> loading(m_bOpenCustomOnType, false);
+        OnTypeChange();
+    }
     OnLevelChange();
     UpdateData(FALSE);
 }

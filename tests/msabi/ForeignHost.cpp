@@ -42,6 +42,11 @@ void ForeignHost::RunBy(int(__cdecl* edit)(Editor, const wchar_t*), Editor edito
     EXPECT_EQ(Faults(), Lines());
 }
 
+int ForeignHost::RunAndCatch(Editor editor, const Script& script)
+{
+    return RunEditor([&] { return m_api.EditAndCatch(editor, m_language.Path().c_str()); }, script);
+}
+
 Lines ForeignHost::Faults() const
 {
     return LinesOf(m_api.Faults());

@@ -21,6 +21,9 @@ public:
     void Run(Editor editor, const Script& script) { RunBy(m_api.Edit, editor, script); }
     void RunByPosition(Editor editor, const Script& script) { RunBy(m_api.EditByPosition, editor, script); }
 
+    // Gives what EditAndCatch gives.
+    int RunAndCatch(Editor editor, const Script& script);
+
     void Release() { m_api.Release(); }
     void Delete() { m_api.Delete(); }
 

@@ -10,6 +10,16 @@ enum class Editor : int
     UserSchemes
 };
 
+// What an operation of the host may do instead of its work.
+enum class Raised : int
+{
+    CxxException, // as Microsoft's compiler throws it
+    Fault         // of the processor
+};
+
+// What EditAndCatch gives for an exception.
+constexpr int kCaught = -77;
+
 struct HostApi
 {
     // Makes a new machine and asks the library for its object. Forgets what was counted and written down before.
@@ -18,6 +28,12 @@ struct HostApi
     int(__cdecl* Edit)(Editor editor, const wchar_t* languageDir);
     // By the position in the table, with a known value in every register that the library must leave as it is.
     int(__cdecl* EditByPosition)(Editor editor, const wchar_t* languageDir);
+    // As Edit, by a host that catches whatever comes out of it.
+    int(__cdecl* EditAndCatch)(Editor editor, const wchar_t* languageDir);
+    // The next call of an operation of that name raises it.
+    void(__cdecl* RaiseIn)(const char* operation, Raised raised);
+    // Whether it has.
+    int(__cdecl* HasRaised)();
     // The two ways to be rid of the library's object.
     void(__cdecl* Release)();
     void(__cdecl* Delete)();

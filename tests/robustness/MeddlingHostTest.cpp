@@ -101,6 +101,16 @@ TEST_F(MeddlingHost, SaysThatThereAreAMillionInkGroupsOfAMillionChannels)
     EXPECT_LT(m_sound.Log().Everything().size(), 100'000u);
 }
 
+TEST_F(MeddlingHost, WantsAnotherEditorWhileItSaves)
+{
+    std::int32_t result = -1;
+    const Library::Interface second = Library::Loaded().NewInterface();
+    m_host.Within(&IHostControl::SaveParameters,
+                  [&] { result = second->EditPrintModes(m_host.Data(), m_host.Control(), L""); });
+    Run<FactoryEditor>([](const FactoryEditor& editor) { editor.SaveAndQuit(); });
+    EXPECT_EQ(result, 0);
+}
+
 // On x86 this compiler's unwinder knows the frames of its own module alone: there no host may throw.
 #if !defined(__i386__)
 
@@ -114,6 +124,15 @@ TEST_F(ThrowingHost, MayThrowWhenItTakesAConfigurationBack)
         EXPECT_EQ(editor.Configs().RowCount(), 4);
         editor.Cancel();
     });
+}
+
+TEST_F(ThrowingHost, MayOpenAnEditorAfterOneThatDidNotOpen)
+{
+    m_host.Within(&IHostData::GetConfigList, [] { throw 1; });
+    const Library::Interface editors = Library::Loaded().NewInterface();
+    EXPECT_EQ(editors->EditPrintModes(m_host.Data(), m_host.Control(), L""), 1);
+    EXPECT_TRUE(m_host.HasActed());
+    Run<PrintModeEditor>([](const PrintModeEditor& editor) { editor.Cancel(); });
 }
 
 // Also where no window procedure is about to be left.

@@ -5,6 +5,14 @@
 
 namespace
 {
+// Of the process: each module that was built with this file has a handler of its own.
+constexpr wchar_t kAllowed[] = L"QUORVANE_FAULTS_ALLOWED";
+
+bool AreAllowed()
+{
+    return GetEnvironmentVariableW(kAllowed, nullptr, 0) != 0;
+}
+
 constexpr DWORD kFaults[] = {EXCEPTION_ACCESS_VIOLATION,    EXCEPTION_DATATYPE_MISALIGNMENT,
                              EXCEPTION_ILLEGAL_INSTRUCTION, EXCEPTION_INT_DIVIDE_BY_ZERO,
                              EXCEPTION_PRIV_INSTRUCTION,    EXCEPTION_STACK_OVERFLOW};
@@ -87,7 +95,7 @@ void CallDebugger(EXCEPTION_POINTERS* fault)
 LONG CALLBACK Consider(EXCEPTION_POINTERS* fault)
 {
     const EXCEPTION_RECORD& record = *fault->ExceptionRecord;
-    if (!IsFault(record.ExceptionCode))
+    if (!IsFault(record.ExceptionCode) || AreAllowed())
         return EXCEPTION_CONTINUE_SEARCH;
     const HMODULE module = ModuleAt(record.ExceptionAddress);
     if (!IsOurs(module) && !TouchesGuardedPage(record))
@@ -99,6 +107,16 @@ LONG CALLBACK Consider(EXCEPTION_POINTERS* fault)
     return EXCEPTION_CONTINUE_SEARCH;
 }
 } // namespace
+
+AllowedFaults::AllowedFaults()
+{
+    SetEnvironmentVariableW(kAllowed, L"1");
+}
+
+AllowedFaults::~AllowedFaults()
+{
+    SetEnvironmentVariableW(kAllowed, nullptr);
+}
 
 void EndOnFaults()
 {

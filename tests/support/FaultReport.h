@@ -5,5 +5,15 @@
 // another thread, one that a system call sends), so without this a test passes over it.
 void EndOnFaults();
 
+// While it lives, such a fault is left to whoever catches it.
+class AllowedFaults
+{
+public:
+    AllowedFaults();
+    ~AllowedFaults();
+    AllowedFaults(const AllowedFaults&) = delete;
+    AllowedFaults& operator=(const AllowedFaults&) = delete;
+};
+
 // The exit code of a program that ended so and wants no debugger (SEM_NOGPFAULTERRORBOX).
 constexpr unsigned kFaultExitCode = 70;

@@ -27,6 +27,21 @@ TEST_F(EditorInHost, DisablesTheHostsWindowWhileItIsOpen)
     EXPECT_EQ(GetActiveWindow(), host.Handle());
 }
 
+TEST_F(EditorInHost, DisablesEveryWindowOfAHostThatIsNotActive)
+{
+    const HostWindow host;
+    const HostWindow other;
+    SetActiveWindow(nullptr);
+    Run([&](PrintModeEditor& editor) {
+        EXPECT_TRUE(editor.Dialog().Owner().Exists());
+        EXPECT_FALSE(host.IsEnabled());
+        EXPECT_FALSE(other.IsEnabled());
+        editor.Cancel();
+    });
+    EXPECT_TRUE(host.IsEnabled());
+    EXPECT_TRUE(other.IsEnabled());
+}
+
 TEST_F(EditorInHost, LeavesAHostsWindowDisabledThatWasSoBefore)
 {
     const HostWindow host;

@@ -85,6 +85,72 @@ TEST_F(ModuleEntry, EachRunReadsTheLanguageFileAfresh)
     });
 }
 
+// Another host and another object want editors while the first has one open.
+class SecondEditor : public ModuleEntry
+{
+protected:
+    // All three operations, by an object of their own.
+    void ExpectRefused()
+    {
+        EXPECT_EQ(m_second->EditPrintModes(m_other.Data(), m_other.Control(), m_otherLanguage.c_str()), 0);
+        EXPECT_EQ(m_second->EditFactorySchemes(m_other.Data(), m_other.Control(), m_otherLanguage.c_str()), 0);
+        EXPECT_EQ(m_second->EditUserSchemes(m_other.Data(), m_other.Control(), m_otherLanguage.c_str()), 0);
+        EXPECT_EQ(m_other.Log().Everything(), Calls());
+    }
+
+    LoggedHost m_other{m_machine};
+
+private:
+    Library::Interface m_second = Library::Loaded().NewInterface();
+    std::wstring m_otherLanguage = L"C:\\no such folder";
+};
+
+TEST_F(SecondEditor, LeavesTheFirstAsItIs)
+{
+    Run([this](PrintModeEditor& editor) {
+        editor.Op().OnUi([this] { ExpectRefused(); });
+        const ConfigDialog dialog = editor.OpenAddConfig();
+        editor.Op().OnUi([this] { ExpectRefused(); });
+        editor.Confirm(dialog, IDCANCEL);
+        editor.SaveAndQuit();
+    });
+    EXPECT_EQ(Changes().back(), "IHostControl.SaveParameters(2)");
+    EXPECT_EQ(m_other.Log().Everything(), Calls());
+}
+
+TEST_F(SecondEditor, IsRefusedOnAnotherThread)
+{
+    Run([this](PrintModeEditor& editor) {
+        ExpectRefused();
+        editor.Cancel();
+    });
+}
+
+TEST_F(SecondEditor, IsRefusedFromATimer)
+{
+    static std::function<void()> onTime;
+    bool isOver = false;
+    onTime = [&] {
+        ExpectRefused();
+        isOver = true;
+    };
+    const auto tick = [](HWND, UINT, UINT_PTR timer, DWORD) {
+        KillTimer(nullptr, timer);
+        onTime();
+    };
+    Run([&](PrintModeEditor& editor) {
+        editor.Op().OnUi([&] { SetTimer(nullptr, 0, USER_TIMER_MINIMUM, tick); });
+        editor.Op().WaitFor("the timer", [&] { return isOver; });
+        editor.Cancel();
+    });
+}
+
+TEST_F(SecondEditor, OpensOnceTheFirstIsClosed)
+{
+    for (int i = 0; i < 2; ++i)
+        Run([](PrintModeEditor& editor) { editor.Cancel(); });
+}
+
 // How often the library must be freed until it has gone.
 int UnloadCount()
 {

@@ -404,31 +404,24 @@ TEST(SchemeTemplates, ModeRadiosFormOneGroup)
     EXPECT_GE(groups, 2); // one begins behind them
 }
 
-bool IsPressed(const TemplateControl& control)
+// A check box or radio button, too.
+bool IsButton(const TemplateControl& control)
 {
-    const DWORD type = control.style & BS_TYPEMASK;
-    return control.className == kButton && type != BS_GROUPBOX;
+    return control.className == kButton && (control.style & BS_TYPEMASK) != BS_GROUPBOX;
 }
 
-bool HandlesArrowKeys(const TemplateControl& control)
-{
-    return !IsPressed(control) && control.className != kButton && control.className != kStatic;
-}
-
-// Arrow keys move the focus from a button to the next control of its group: nothing but another button may be there.
-TEST(SchemeTemplates, NoGroupHasButtonsAndOtherControls)
+// Arrow keys move the focus from a button to the next control of its group, which on some systems may be a label.
+TEST(SchemeTemplates, OnlyButtonsStandInAGroup)
 {
     for (const DialogTemplate& dialog : AllDialogTemplates())
     {
-        bool hasButtons = false;
-        bool hasOthers = false;
+        bool isLastButton = false;
         for (const TemplateControl& control : dialog.controls)
         {
-            if (control.style & WS_GROUP)
-                hasButtons = hasOthers = false;
-            hasButtons = hasButtons || IsPressed(control);
-            hasOthers = hasOthers || HandlesArrowKeys(control);
-            EXPECT_FALSE(hasButtons && hasOthers) << "dialog " << dialog.id << ", control " << control.id;
+            const bool beginsGroup = (control.style & WS_GROUP) != 0;
+            EXPECT_TRUE(beginsGroup || (IsButton(control) && isLastButton))
+                << "dialog " << dialog.id << ", control " << control.id;
+            isLastButton = IsButton(control);
         }
     }
 }

@@ -85,6 +85,18 @@ int __cdecl EditByPosition(Editor editor, const wchar_t* languageDir)
         GuardedCall("the editor", Convention::Member, table[1 + static_cast<int>(editor)], arguments, 4));
 }
 
+int __cdecl EditAndCatch(Editor editor, const wchar_t* languageDir)
+{
+    __try
+    {
+        return CallOperation(editor, languageDir);
+    }
+    __except (1) // handles every exception
+    {
+        return kCaught;
+    }
+}
+
 void __cdecl Release()
 {
     const uintptr_t object = reinterpret_cast<uintptr_t>(g_library);
@@ -184,25 +196,11 @@ unsigned __cdecl ArraysGrown()
     return g_data->inkChannels->arraysGrown;
 }
 
-const HostApi kApi = {&Start,
-                      &Edit,
-                      &EditByPosition,
-                      &Release,
-                      &Delete,
-                      &PositionCount,
-                      &PositionName,
-                      &PositionCalls,
-                      &FaultText,
-                      &ChangeText,
-                      &ForgetChanges,
-                      &Values,
-                      &LibraryObject,
-                      &Data,
-                      &DeleteCount,
-                      &SetChannelCount,
-                      &SetFieldsBeforeArray,
-                      &ArraysFilled,
-                      &ArraysGrown};
+const HostApi kApi = {&Start,         &Edit,       &EditByPosition, &EditAndCatch,    &RaiseIn,
+                      &HasRaised,     &Release,    &Delete,         &PositionCount,   &PositionName,
+                      &PositionCalls, &FaultText,  &ChangeText,     &ForgetChanges,   &Values,
+                      &LibraryObject, &Data,       &DeleteCount,    &SetChannelCount, &SetFieldsBeforeArray,
+                      &ArraysFilled,  &ArraysGrown};
 } // namespace
 
 extern "C" __declspec(dllexport) const HostApi* __cdecl GetHostApi()

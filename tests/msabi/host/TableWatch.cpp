@@ -2,6 +2,9 @@
 
 #include "tests/msabi/host/Report.h"
 
+extern "C" __declspec(dllimport) void __stdcall RaiseException(unsigned long code, unsigned long flags,
+                                                               unsigned long count, const uintptr_t* arguments);
+
 namespace
 {
 constexpr uintptr_t kJunk = static_cast<uintptr_t>(0xDEADBEEF5A5AA500u);
@@ -167,15 +170,50 @@ uintptr_t WithJunk(char result, uintptr_t value)
     }
 }
 
+const char* g_raisingOperation = nullptr;
+Raised g_raised = Raised::CxxException;
+
+bool AreEqual(const char* left, const char* right)
+{
+    return StartsWith(left, right) && StartsWith(right, left);
+}
+
+void __cdecl ThrowAsMicrosoftDoes()
+{
+    RaiseException(0xE06D7363, 0, 0, nullptr);
+}
+
+void __cdecl WriteToNowhere()
+{
+    *reinterpret_cast<int volatile*>(8) = 1;
+}
+
+// Null for a call that is to do its work.
+void* RaiserFor(const CallFrame& frame)
+{
+    if (!g_raisingOperation || !frame.position || !AreEqual(frame.position->name, g_raisingOperation))
+        return nullptr;
+    g_raisingOperation = nullptr;
+    return reinterpret_cast<void*>(g_raised == Raised::CxxException ? &ThrowAsMicrosoftDoes : &WriteToNowhere);
+}
+
 extern "C"
 {
-    // Gives what the compiler's own table has at this position.
+    // Gives what the compiler's own table has at this position. A result that is not 0 means that what is given is to
+    // stand in for the operation: no frame of the watch may be on the stack, because nobody could unwind it.
     void* __cdecl EnterCall(CallFrame* frame)
     {
         InterfaceTable& table = *frame->object->watched.table;
         g_current = frame;
         ++table.calls[frame->number];
         frame->position = FindPosition(table, static_cast<unsigned>(frame->number));
+        void* const raiser = RaiserFor(*frame);
+        frame->result = raiser != nullptr;
+        if (raiser)
+        {
+            g_current = nullptr;
+            return raiser;
+        }
         CheckStack(*frame);
         Require(!frame->object->watched.isRemoved, "the object was removed");
         if (!Require(frame->position != nullptr, "the operation is not to be called"))
@@ -227,6 +265,8 @@ extern "C" __attribute__((naked)) void WatchCall()
             "pushl %%edx\n\t"
             "call %P0\n\t"
             "addl $4, %%esp\n\t"
+            "cmpl $0, -0x10(%%ebp)\n\t"
+            "jne 1f\n\t"
             // More than the operation may take; the stack is put right below.
             "pushl 12(%%ebp)\n\t"
             "pushl 8(%%ebp)\n\t"
@@ -247,7 +287,11 @@ extern "C" __attribute__((naked)) void WatchCall()
             "popl %%ebp\n\t"
             "leal 4(%%esp, %%ecx), %%esp\n\t"
             "movl $0xDEADBEEF, %%ecx\n\t"
-            "jmp *%%edx" ::"i"(EnterCall),
+            "jmp *%%edx\n"
+            "1:\n\t"
+            "movl %%ebp, %%esp\n\t"
+            "popl %%ebp\n\t"
+            "jmp *%%eax" ::"i"(EnterCall),
             "i"(LeaveCall));
 #else
     __asm__("subq $0xA8, %%rsp\n\t"
@@ -262,6 +306,8 @@ extern "C" __attribute__((naked)) void WatchCall()
             "movq $0, 0x68(%%rsp)\n\t"
             "leaq 0x20(%%rsp), %%rcx\n\t"
             "call %P0\n\t"
+            "cmpq $0, 0x50(%%rsp)\n\t"
+            "jne 1f\n\t"
             "movq 0x20(%%rsp), %%rcx\n\t"
             "movq 0x28(%%rsp), %%rdx\n\t"
             "movq 0x30(%%rsp), %%r8\n\t"
@@ -285,7 +331,10 @@ extern "C" __attribute__((naked)) void WatchCall()
             "movq %%rcx, %%xmm3\n\t"
             "movq %%rcx, %%xmm4\n\t"
             "movq %%rcx, %%xmm5\n\t"
-            "ret" ::"i"(EnterCall),
+            "ret\n"
+            "1:\n\t"
+            "addq $0xA8, %%rsp\n\t"
+            "jmp *%%rax" ::"i"(EnterCall),
             "i"(LeaveCall));
 #endif
 }
@@ -315,6 +364,17 @@ void StartWatch(void* object, WatchedPart& watched, InterfaceTable& table, const
         watched.label[i] = label[i];
     table.operations = seen->operations;
     seen->operations = reinterpret_cast<void* const*>(AllPositions::kOperations);
+}
+
+void __cdecl RaiseIn(const char* operation, Raised raised)
+{
+    g_raisingOperation = operation;
+    g_raised = raised;
+}
+
+int __cdecl HasRaised()
+{
+    return !g_raisingOperation;
 }
 
 void ReportFault(const char* what)

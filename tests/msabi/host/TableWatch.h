@@ -1,5 +1,6 @@
 #pragma once
 
+#include "tests/msabi/HostApi.h"
 #include "tests/msabi/host/Positions.h"
 #include "tests/msabi/host/Runtime.h"
 
@@ -26,6 +27,9 @@ private:
 };
 
 void StartWatch(void* object, WatchedPart& watched, InterfaceTable& table, const char* label);
+
+void __cdecl RaiseIn(const char* operation, Raised raised);
+int __cdecl HasRaised();
 
 // Every object of the host is made by this.
 template <class Concrete>
