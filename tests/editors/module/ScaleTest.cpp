@@ -1,4 +1,5 @@
-// The functions that tell of scales came with Windows 10. The library looks them up at run time.
+// The functions that tell of scales came with Windows 10. Like the library, the tests look them up at run time: they
+// have to start on Windows 7.
 #undef WINVER
 #undef _WIN32_WINNT
 #define WINVER 0x0A00
@@ -20,13 +21,40 @@ std::ostream& operator<<(std::ostream& stream, const HostScale& scale)
     return stream << scale.name;
 }
 
+template <class Function>
+Function SystemFunction(const char* name)
+{
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"user32.dll"), name)));
+}
+
+#define SYSTEM_FUNCTION(name) SystemFunction<decltype(&name)>(#name)
+
+bool HasScales()
+{
+    return SYSTEM_FUNCTION(SetThreadDpiAwarenessContext) != nullptr;
+}
+
+DPI_AWARENESS_CONTEXT SetContextOfThread(DPI_AWARENESS_CONTEXT context)
+{
+    return HasScales() ? SYSTEM_FUNCTION(SetThreadDpiAwarenessContext)(context) : nullptr;
+}
+
+DPI_AWARENESS_CONTEXT ContextOfThread()
+{
+    return HasScales() ? SYSTEM_FUNCTION(GetThreadDpiAwarenessContext)() : nullptr;
+}
+
 class EditorScale : public FactorySchemeFixture, public testing::WithParamInterface<HostScale>
 {
 protected:
-    EditorScale() : m_before(SetThreadDpiAwarenessContext(GetParam().context)), m_ofHost(GetThreadDpiAwarenessContext())
+    EditorScale() : m_before(SetContextOfThread(GetParam().context)), m_ofHost(ContextOfThread()) {}
+    ~EditorScale() override { SetContextOfThread(m_before); }
+
+    void SetUp() override
     {
+        if (!HasScales())
+            GTEST_SKIP() << "this system has one scale for all windows";
     }
-    ~EditorScale() override { SetThreadDpiAwarenessContext(m_before); }
 
     const DPI_AWARENESS_CONTEXT m_before;
     const DPI_AWARENESS_CONTEXT m_ofHost; // some systems do not tell it from its first version
@@ -34,7 +62,8 @@ protected:
 
 DPI_AWARENESS AwarenessOf(const Window& window)
 {
-    return GetAwarenessFromDpiAwarenessContext(GetWindowDpiAwarenessContext(window.Handle()));
+    const auto contextOf = SYSTEM_FUNCTION(GetWindowDpiAwarenessContext);
+    return SYSTEM_FUNCTION(GetAwarenessFromDpiAwarenessContext)(contextOf(window.Handle()));
 }
 
 // Template, fonts and measures keep to one scale in every window. That of the host is in effect again afterwards.
@@ -48,7 +77,7 @@ TEST_P(EditorScale, IsOneForAllWindows)
         editor.Confirm(eclosion, IDCANCEL);
         editor.Cancel();
     });
-    EXPECT_TRUE(AreDpiAwarenessContextsEqual(GetThreadDpiAwarenessContext(), m_ofHost));
+    EXPECT_TRUE(SYSTEM_FUNCTION(AreDpiAwarenessContextsEqual)(ContextOfThread(), m_ofHost));
 }
 
 const HostScale kScales[] = {
