@@ -5,9 +5,14 @@
 
 TEST(Planted, Passes) {}
 
+// With something to see in the picture.
 TEST(Planted, FailsWithALogThatIsNoHtml)
 {
+    const HWND window = CreateWindowW(L"BUTTON", L"Planted", WS_POPUP | WS_VISIBLE, 100, 100, 200, 100, nullptr,
+                                      nullptr, nullptr, nullptr);
+    UpdateWindow(window);
     ADD_FAILURE() << "<b>\"R&D\"</b>";
+    DestroyWindow(window);
 }
 
 TEST(Planted, SkipsItself)
