@@ -67,7 +67,7 @@ ProgramResult Kit::ResultOf(const Part& part, const std::string& program)
     return result;
 }
 
-std::vector<ProgramResult> Kit::Run()
+void Kit::Run(const std::function<void(const std::vector<ProgramResult>&)>& tell)
 {
     const Part parts[] = {PartOf("x64"), PartOf("x86")};
     const std::size_t count = parts[0].programs.size() + parts[1].programs.size();
@@ -81,6 +81,6 @@ std::vector<ProgramResult> Kit::Run()
             results.push_back(ResultOf(part, program));
             Count(results.back(), counts);
             std::printf("%s so far\n", TextOf(counts).c_str());
+            tell(results);
         }
-    return results;
 }

@@ -2,6 +2,8 @@
 
 #include "tests/kit/TestPrograms.h"
 
+#include <functional>
+
 // What the system started this program with --probe ends with where it can run programs of its kind.
 constexpr unsigned long kProbeExitCode = 42;
 
@@ -11,8 +13,8 @@ class Kit
 public:
     explicit Kit(const Options& options);
 
-    // Tells on the way how far it is.
-    std::vector<ProgramResult> Run();
+    // Prints on the way how far it is, and hands over all results so far after each program.
+    void Run(const std::function<void(const std::vector<ProgramResult>&)>& tell);
     static std::wstring PathOf(const std::wstring& name);
 
 private:

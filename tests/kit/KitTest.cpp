@@ -136,11 +136,19 @@ TEST(KitResult, FailsForAProgramThatEndsBadly)
 TEST(KitReport, TellsOfEachTest)
 {
     const TestResult bad = {"A.<b>", Outcome::Failed, "1 < 2", "png"};
-    const std::string html = ReportOf({{"x64", "a", {bad, {"A.ok", Outcome::Passed, {}, {}}}}}, {1, 1, 0});
+    const std::string html =
+        ReportOf({{"x64", "a", {bad, {"A.ok", Outcome::Passed, {}, {}}}}}, {1, 1, 0}, Progress::Ended);
     for (const char* text :
          {"1 passed, 1 failed, 0 skipped", "A.&lt;b&gt;", "1 &lt; 2", "base64,cG5n\"", "A.ok", "Common controls"})
         EXPECT_NE(html.find(text), std::string::npos) << text;
     EXPECT_EQ(html.find("A.<b>"), std::string::npos);
+}
+
+TEST(KitReport, TellsThatTheRunGoesOn)
+{
+    const std::string sign = "1 passed, 0 failed, 0 skipped so far; the run has not ended";
+    EXPECT_NE(ReportOf({}, {1, 0, 0}, Progress::Running).find(sign), std::string::npos);
+    EXPECT_EQ(ReportOf({}, {1, 0, 0}, Progress::Ended).find("so far"), std::string::npos);
 }
 
 TEST(KitChild, ThatIsMissingTellsTheSystemsError)

@@ -97,9 +97,10 @@ std::string TestTable(const std::vector<ProgramResult>& programs)
 }
 } // namespace
 
-std::string ReportOf(const std::vector<ProgramResult>& programs, const Counts& counts)
+std::string ReportOf(const std::vector<ProgramResult>& programs, const Counts& counts, Progress progress)
 {
-    return kHead + ("<p><strong>" + TextOf(counts)) + "</strong></p>\n" + SystemTable() + ProgramTable(programs) +
+    const std::string title = TextOf(counts) + (progress == Progress::Running ? " so far; the run has not ended" : "");
+    return kHead + ("<p><strong>" + title) + "</strong></p>\n" + SystemTable() + ProgramTable(programs) +
            Sections(programs, Outcome::Failed, "Failed") + Sections(programs, Outcome::Skipped, "Skipped") +
            TestTable(programs) + "</body>\n</html>\n";
 }

@@ -4,5 +4,11 @@
 
 #include <string>
 
+enum class Progress
+{
+    Running,
+    Ended
+};
+
 // One page of HTML that needs no other file.
-std::string ReportOf(const std::vector<ProgramResult>& programs, const Counts& counts);
+std::string ReportOf(const std::vector<ProgramResult>& programs, const Counts& counts, Progress progress);

@@ -30,14 +30,34 @@ void PrepareSystem()
     SetThreadExecutionState(ES_CONTINUOUS | ES_SYSTEM_REQUIRED | ES_DISPLAY_REQUIRED);
 }
 
-int RunKit(const Options& options)
+Counts CountsOf(const std::vector<ProgramResult>& programs)
 {
-    PrepareSystem();
-    const std::vector<ProgramResult> programs = Kit(options).Run();
     Counts counts;
     for (const ProgramResult& program : programs)
         Count(program, counts);
-    Write(Kit::PathOf(L"report.html"), ReportOf(programs, counts));
+    return counts;
+}
+
+// After each program: a machine that breaks down has left a report of what came before.
+Counts RunAndReport(const Options& options)
+{
+    std::vector<ProgramResult> all;
+    const auto report = [&](Progress progress) {
+        Write(Kit::PathOf(L"report.html"), ReportOf(all, CountsOf(all), progress));
+    };
+    report(Progress::Running); // before hours go by for a report that cannot be written
+    Kit(options).Run([&](const std::vector<ProgramResult>& results) {
+        all = results;
+        report(Progress::Running);
+    });
+    report(Progress::Ended);
+    return CountsOf(all);
+}
+
+int RunKit(const Options& options)
+{
+    PrepareSystem();
+    const Counts counts = RunAndReport(options);
     if (counts.passed + counts.failed == 0)
         std::printf("No test was run\n");
     std::printf("The report is in report.html\n%s\n", TextOf(counts).c_str());
