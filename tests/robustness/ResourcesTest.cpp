@@ -17,7 +17,8 @@ protected:
         return CreateWindowExW(0, L"STATIC", nullptr, style, 0, 0, 1, 1, parent, nullptr, nullptr, nullptr);
     }
 
-    long Grown(long Resources::*count) const { return (Resources::Held() - m_before).*count; }
+    using Count = long Resources::*;
+    long Grown(Count count) const { return (Resources::Held() - m_before).*count; }
 
 private:
     // With a thread's first window come others of the system's, and they go with its last one.
