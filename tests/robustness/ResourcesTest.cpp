@@ -1,6 +1,7 @@
 #include "tests/robustness/Resources.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 #include <windows.h>
 
 // What is not counted could leak unseen.
@@ -72,6 +73,18 @@ TEST_F(HeldResources, CountBlocksOfTheProcessesHeap)
     void* const block = HeapAlloc(GetProcessHeap(), 0, 100);
     EXPECT_EQ(Grown(&Resources::heapBlocks), 1);
     HeapFree(GetProcessHeap(), 0, block);
+    EXPECT_EQ(Grown(&Resources::heapBlocks), 0);
+}
+
+// So many of one size that the system keeps them together.
+TEST_F(HeldResources, CountEachSmallBlockOfTheProcessesHeap)
+{
+    std::vector<void*> blocks(10000);
+    for (void*& block : blocks)
+        block = HeapAlloc(GetProcessHeap(), 0, 40);
+    EXPECT_EQ(Grown(&Resources::heapBlocks), static_cast<long>(blocks.size()));
+    for (void* block : blocks)
+        HeapFree(GetProcessHeap(), 0, block);
     EXPECT_EQ(Grown(&Resources::heapBlocks), 0);
 }
 } // namespace
