@@ -2,7 +2,8 @@
 # Installs what is missing, builds, and measures the editors under Wine against their baseline. See usage.
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
-. "$project/tools/lib/x86-root.sh"
+. "$project/tools/lib/debian-root.sh"
+. "$project/tools/lib/runs.sh"
 
 usage() {
     cat <<'TEXT'
@@ -14,7 +15,7 @@ bare dialogs with the same windows and rows. Prints tables, and leaves them in b
   --rounds N         measure each case N times (default: 15)
   --help             show this text
 Environment:
-  QUORVANE_X86_ROOT  the folder to keep the i386 system in (default: build/x86-root)
+  QUORVANE_ROOTS     the folder to keep an i386 Debian in (default: build/roots)
 TEXT
 }
 
@@ -37,12 +38,10 @@ parse_options() {
     done
 }
 
-measures_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
-
 install_packages() {
     local packages=("${x64_packages[@]}")
-    ! measures_x86 || packages+=("${x86_packages[@]}")
-    ! measures_x86 || system_has_wine32 || packages+=(debootstrap)
+    [[ " ${arches[*]} " != *" x86 "* ]] || packages+=("${x86_packages[@]}")
+    mapfile -t -O "${#packages[@]}" packages < <(root_packages "${arches[@]}")
     install_missing "${packages[@]}"
 }
 
@@ -51,11 +50,7 @@ measure() {
     local arch=$1
     start_screen
     trap stop_screen EXIT
-    if [ "$arch" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-bench.sh x86 "$rounds" "$only"
-    else
-        "$project/tools/lib/run-bench.sh" "$arch" "$rounds" "$only"
-    fi
+    with_wine_of "$own_suite" "$arch" tools/lib/run-bench.sh "$arch" "$rounds" "$only"
     stop_screen
     trap - EXIT
 }
@@ -71,10 +66,11 @@ mkdir -p "$build/bench"
 for arch in "${arches[@]}"; do
     build_preset "$arch" quorvane_bench
 done
+prepare_roots "${arches[@]}"
 measured=()
 for arch in "${arches[@]}"; do
-    if [ "$arch" = x86 ] && ! x86_prepare >"$build/x86-skipped"; then
-        say "Skipped: x86, because $(cat "$build/x86-skipped")"
+    if ! can_run "$arch"; then
+        say "Skipped: $arch, because $(cat "$(reason_against "$arch")")"
         continue
     fi
     say "Measuring $arch"

@@ -2,25 +2,28 @@
 # Installs what is missing, builds, and runs every test. See usage.
 . "$(dirname "$0")/tools/lib/common.sh"
 . "$project/tools/lib/screen.sh"
-. "$project/tools/lib/x86-root.sh"
+. "$project/tools/lib/debian-root.sh"
+. "$project/tools/lib/runs.sh"
 . "$project/tools/lib/selection.sh"
 . "$project/tools/lib/report.sh"
 
 usage() {
     cat <<'TEXT'
-Usage: ./test.sh [--arch x64|x86|x64-checked|native-asan] [--filter PATTERN] [--seed N] [--long]
+Usage: ./test.sh [--arch x64|x86|x64-checked|native-asan] [--wine 8|10] [--filter PATTERN] [--seed N] [--long]
 Installs the packages that are missing, builds, and runs every test under Wine: on x64, on x86, and in an x64 build
 in which memory faults and undefined behaviour end the program. Tests that need no window also run natively under the
 address sanitizer.
   --arch ARCH        run one of the four only
+  --wine 8|10        run what runs under Wine under that of Debian 12 or 13, and leave the checks out
   --filter PATTERN   run only tests whose full name matches (a GoogleTest filter),
                      and leave the checks out
   --seed N           start seeded tests from this seed (default: 1; with --long a random one, which is printed)
   --long             repeat seeded tests for hours
   --help             show this text
 Environment:
-  QUORVANE_X86_ROOT  the folder to keep the i386 system in (default: build/x86-root)
-  CI=true            count a skipped test as a failure
+  QUORVANE_ROOTS     the folder to keep other Debian systems in (default: build/roots)
+  CI=true            also run the tests of the editors on x64 under the other Debian's Wine, and count a skipped test as
+                     a failure
 TEXT
 }
 
@@ -29,11 +32,12 @@ refuse() {
     exit 2
 }
 
-arches=(x64 x86 x64-checked native-asan) filter='*' seed="" long=""
+arches=(x64 x86 x64-checked native-asan) wine="" filter='*' seed="" long="" runs=()
 parse_options() {
     while [ $# -gt 0 ]; do
         case "$1 ${2:-}" in
         "--arch x64" | "--arch x86" | "--arch x64-checked" | "--arch native-asan") arches=("$2") && shift ;;
+        "--wine 8" | "--wine 10") wine=$2 && shift ;;
         "--filter "?*) filter=$2 && shift ;;
         "--seed "?*) seed=$2 && shift ;;
         "--long "*) long=true ;;
@@ -47,12 +51,21 @@ parse_options() {
     [ -z "$seed" ] || say "Seed: $seed"
 }
 
-tests_x86() { [[ " ${arches[*]} " == *" x86 "* ]]; }
+# plan_runs: what runs under no Wine is left out where one is asked for.
+plan_runs() {
+    [ -z "$wine" ] || mapfile -t arches < <(printf '%s\n' "${arches[@]}" | grep -vx native-asan)
+    [ ${#arches[@]} -gt 0 ] || refuse
+    runs=("${arches[@]/%/${wine:+-wine$wine}}")
+    ! shows_other_wine || runs+=("x64-wine$(other_wine)")
+}
+
+# shows_other_wine: a taste of it, where every change is tested.
+shows_other_wine() { [ "${CI:-}" = true ] && [ -z "$wine" ] && [ "$filter" = '*' ] && [[ " ${arches[*]} " == *" x64 "* ]]; }
 
 install_packages() {
     local packages=("${x64_packages[@]}" g++ clang clang-format clang-tidy lld python3)
-    ! tests_x86 || packages+=("${x86_packages[@]}")
-    ! tests_x86 || system_has_wine32 || packages+=(debootstrap)
+    [[ " ${arches[*]} " != *" x86 "* ]] || packages+=("${x86_packages[@]}")
+    mapfile -t -O "${#packages[@]}" packages < <(root_packages "${runs[@]}")
     install_missing "${packages[@]}"
 }
 
@@ -72,51 +85,59 @@ build_arch() {
     build_targets "$1" "${targets[@]}"
 }
 
-# The i386 system comes over the network while the compilers work.
+# Other Debian systems come over the network while the compilers work.
 build_all() {
-    local arch preparing=''
-    if tests_x86; then
-        x86_prepare >"$build/x86-skipped" &
-        preparing=$!
-        # A failing build must not leave it behind.
-        trap 'wait' EXIT
-    fi
+    local arch
+    prepare_roots "${runs[@]}" &
+    # A failing build must not leave it behind.
+    trap 'wait' EXIT
     for arch in "${arches[@]}"; do
         build_arch "$arch"
     done
-    x86_usable=true
-    [ -z "$preparing" ] || wait "$preparing" || x86_usable=false
+    wait
 }
 
-can_run() { [ "$1" != x86 ] || $x86_usable; }
+# programs_of RUN
+programs_of() {
+    if shows_other_wine && [[ $1 == *-wine* ]]; then
+        say editor_tests
+    else
+        cat "$build/$(arch_of "$1")/programs.list"
+    fi
+}
 
-# run_lane ARCH LANE: on a screen of its own where windows open.
+# run_lane RUN LANE: on a screen of its own where windows open.
 run_lane() {
+    local arguments
+    arguments=("$(arch_of "$1")" "$(folder_of "$1")" "$2" "$filter" "$seed" "$long")
     if [ "$1" = native-asan ]; then
-        "$project/tools/lib/run-suite.sh" "$1" "$2" "$filter" "$seed" "$long"
+        "$project/tools/lib/run-suite.sh" "${arguments[@]}"
         return
     fi
     start_screen
     trap stop_screen EXIT
-    if [ "$1" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-suite.sh x86 "$2" "$filter" "$seed" "$long"
-    else
-        "$project/tools/lib/run-suite.sh" "$1" "$2" "$filter" "$seed" "$long"
-    fi
+    with_wine_of "$(suite_of "$1")" "$(arch_of "$1")" tools/lib/run-suite.sh "${arguments[@]}"
 }
 
-# run_all: of one build two programs at once, because few keep a processor busy; of several builds one each.
+# prepare_results RUN
+prepare_results() {
+    local results
+    results=$(results_of "$1")
+    rm -rf "$results"
+    mkdir -p "$results"
+    programs_of "$1" | tee "$results/queue" >"$results/programs.list"
+}
+
+# run_all: of one run two programs at once, because few keep a processor busy; of several runs one each.
 run_all() {
-    local arch lane lanes=(1) suites=()
-    [ ${#arches[@]} -gt 1 ] || lanes=(1 2)
-    for arch in "${arches[@]}"; do
-        rm -rf "$build/$arch/results"
-        can_run "$arch" || continue
-        mkdir -p "$build/$arch/results"
-        cp "$build/$arch/programs.list" "$build/$arch/results/queue"
-        say "Running the tests on $arch"
+    local run lane lanes=(1) suites=()
+    [ ${#runs[@]} -gt 1 ] || lanes=(1 2)
+    for run in "${runs[@]}"; do
+        prepare_results "$run"
+        can_run "$run" || continue
+        say "Running the tests on $run"
         for lane in "${lanes[@]}"; do
-            run_lane "$arch" "$lane" &
+            run_lane "$run" "$lane" &
             suites+=($!)
         done
     done
@@ -126,8 +147,8 @@ run_all() {
 # start_checks: while the tests wait for windows, the processors have time to compile.
 start_checks() {
     checks=""
-    # A filter asks for tests, and no check is one.
-    [ "$filter" = '*' ] || { say "With a filter the checks are left out" && return; }
+    # Who asks for some tests or for a Wine asks for no check.
+    [ "$filter$wine" = '*' ] || { say "With a filter or a Wine the checks are left out" && return; }
     (count_checks >"$build/checks.log" && printf '%s %s\n' "$passed" "$failed" >"$build/checks.counts") &
     checks=$!
 }
@@ -140,13 +161,7 @@ finish_checks() {
     cat "$build/checks.log"
     read -r good bad <"$build/checks.counts"
     passed=$((passed + good)) failed=$((failed + bad))
-    ! can_run "${arches[0]}" || count_check "selection by filters" "$project/tools/checks/check-selection.sh" "${arches[0]}"
-}
-
-# skip_x86 COUNT: what ran on x64 would have run on x86.
-skip_x86() {
-    printf '\nSkipped: the tests on x86, because %s\n' "$(cat "$build/x86-skipped")"
-    skipped=$((skipped + ($1 > 0 ? $1 : 1)))
+    ! can_run "${runs[0]}" || count_check "selection by filters" "$project/tools/checks/check-selection.sh" "${arches[0]}"
 }
 
 count_checks() {
@@ -161,22 +176,31 @@ count_checks() {
         [[ $arch == x64 || $arch == x86 ]] || continue
         count_check "broken tables for $arch" "$project/tests/tables/broken-headers.sh" "$arch"
         count_check "second build of Quorvane.dll for $arch" "$project/tools/checks/check-same-build.sh" "$arch"
-        ! can_run "$arch" || count_check "test kit for $arch" "$project/tools/checks/check-test-kit.sh" "$arch"
+        { [[ " ${runs[*]} " == *" $arch "* ]] && can_run "$arch"; } || continue
+        count_check "test kit for $arch" "$project/tools/checks/check-test-kit.sh" "$arch"
     done
 }
 
 # count_suites: leaves the number of test program cases in executed.
 count_suites() {
-    local arch before
-    local -A ran=()
-    executed=0
-    for arch in "${arches[@]}"; do
-        before=$((passed + failed))
-        ! can_run "$arch" || count_suite "$arch"
-        ran[$arch]=$((passed + failed - before))
-        executed=$((executed + ran[$arch]))
+    local run before=$((passed + failed))
+    for run in "${runs[@]}"; do
+        ! can_run "$run" || count_suite "$run"
     done
-    $x86_usable || skip_x86 "${ran[x64]:-0}"
+    executed=$((passed + failed - before))
+    for run in "${runs[@]}"; do
+        can_run "$run" || skip_suite "$run"
+    done
+}
+
+# skip_suite RUN: what its programs ran on x64 they would have run here, too.
+skip_suite() {
+    local program count=0
+    printf '\nSkipped: the tests on %s, because %s\n' "$1" "$(cat "$(reason_against "$1")")"
+    while read -r program; do
+        count=$((count + $(cases_run "$build/x64/results/$program.xml")))
+    done <"$(results_of "$1")/programs.list"
+    skipped=$((skipped + (count > 0 ? count : 1)))
 }
 
 # close_run: the closing line, and the status that it stands for.
@@ -193,6 +217,7 @@ close_run() {
 }
 
 parse_options "$@"
+plan_runs
 install_packages
 build_all
 start_checks

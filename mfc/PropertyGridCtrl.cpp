@@ -257,7 +257,9 @@ void CMFCPropertyGridCtrl::StepOption()
     if (options.empty())
         return;
     auto it = std::find(options.begin(), options.end(), GetCurSel()->GetValue());
-    if (it == options.end() || ++it == options.end())
+    if (it != options.end())
+        ++it;
+    if (it == options.end())
         it = options.begin();
     ChangeValue(CString(*it));
 }

@@ -2,6 +2,7 @@
 
 #include "GdiObjects.h"
 
+#include <algorithm>
 #include <uxtheme.h>
 #include <windowsx.h>
 
@@ -78,8 +79,7 @@ void CMFCTabCtrl::AddTab(CWnd* page, const wchar_t* label, UINT, BOOL)
     SendMessage(TCM_INSERTITEM, m_vecPages.size(), reinterpret_cast<LPARAM>(&item));
     ::SetParent(page->m_hWnd, m_hWnd);
     m_vecPages.push_back(page);
-    if (m_nActive < 0)
-        m_nActive = 0;
+    m_nActive = std::max(m_nActive, 0);
     ::EnableThemeDialogTexture(page->m_hWnd, ETDT_ENABLETAB);
     page->MoveWindow(PageRect());
     page->ShowWindow(page == ActivePage() ? SW_SHOW : SW_HIDE);

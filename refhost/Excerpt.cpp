@@ -24,8 +24,8 @@ std::string Excerpt(std::string_view text, std::size_t longest)
 {
     const bool fits = text.size() <= longest;
     std::string excerpt = Utf8FromWide(WideFromUtf8(text.substr(0, fits ? text.size() : CutLength(text, longest))));
-    std::replace_if(
-        excerpt.begin(), excerpt.end(), [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; }, ' ');
+    const auto isControl = [](char c) { return (c >= 0 && c < ' ') || c == '\x7F'; };
+    std::replace_if(excerpt.begin(), excerpt.end(), isControl, ' ');
     return fits ? excerpt : excerpt + "...";
 }
 

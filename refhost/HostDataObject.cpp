@@ -98,9 +98,10 @@ IPrintConfig* CHostDataObject::CreateConfig()
 
 void CHostDataObject::DestroyConfig(IPrintConfig* config)
 {
-    for (std::uint32_t i = 0; i < m_created.Count(); ++i)
-        if (m_created.At(i) == config)
-            return m_created.Remove(i);
+    std::uint32_t i = 0;
+    while (i < m_created.Count() && m_created.At(i) != config)
+        ++i;
+    m_created.Remove(i);
 }
 
 } // namespace refhost

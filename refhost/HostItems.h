@@ -45,6 +45,7 @@ public:
     auto Values() const
     {
         std::vector<std::decay_t<decltype(std::declval<const Item&>().Values())>> values;
+        values.reserve(m_vecItems.size());
         for (const auto& item : m_vecItems)
             values.push_back(item->Values());
         return values;

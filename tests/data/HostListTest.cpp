@@ -25,7 +25,7 @@ struct List
     }
 };
 
-List* const kNoList = nullptr;
+List* volatile kNoList = nullptr; // GCC 14 would warn of a null that it sees walked
 
 std::uint32_t CountOfMany(std::uint32_t count)
 {

@@ -52,14 +52,14 @@ volatile char sink;
 
 void WritePastBlock()
 {
-    volatile char* const block = new char[length];
+    volatile char* volatile block = new char[length];
     block[length] = 1;
     delete[] block;
 }
 
 void ReadPastBlock()
 {
-    const volatile char* const block = new char[length];
+    const volatile char* volatile block = new char[length];
     sink = block[length];
     delete[] block;
 }
@@ -74,7 +74,7 @@ void CopyPastBlock()
 
 void WriteBeforeBlock()
 {
-    volatile char* const block = new char[length];
+    volatile char* volatile block = new char[length];
     *(block - length) = 1;
     delete[] block;
 }

@@ -8,27 +8,55 @@
 namespace
 {
 constexpr const char* kThisArchitecture = sizeof(void*) == 8 ? "x64" : "x86";
+
+// What a line has behind the function's name.
+struct Conditions
+{
+    bool isForThisArchitecture = true;
+    bool mayBeMissing = false;
+};
+
+Conditions ReadConditions(std::istream& words)
+{
+    Conditions conditions;
+    for (std::string word; words >> word;)
+        if (word == "runtime")
+            conditions.mayBeMissing = true;
+        else
+            conditions.isForThisArchitecture = word == kThisArchitecture;
+    return conditions;
 }
 
-std::map<std::string, std::set<std::string>> AllowedImports()
+Imports ReadList(bool withThoseThatMayBeMissing)
 {
     std::ifstream file("windows7-imports.txt");
     if (!file)
         throw std::runtime_error("windows7-imports.txt does not lie beside the tests");
-    std::map<std::string, std::set<std::string>> allowed;
+    Imports imports;
     std::string library;
     for (std::string line; std::getline(file, line);)
     {
         std::istringstream words(line);
         std::string name;
-        std::string architecture;
-        words >> name >> architecture;
+        words >> name;
         if (name.empty() || name[0] == '#')
             continue;
+        const Conditions conditions = ReadConditions(words);
         if (line[0] != ' ')
             library = name;
-        else if (architecture.empty() || architecture == kThisArchitecture)
-            allowed[library].insert(name);
+        else if (conditions.isForThisArchitecture && (withThoseThatMayBeMissing || !conditions.mayBeMissing))
+            imports[library].insert(name);
     }
-    return allowed;
+    return imports;
+}
+} // namespace
+
+Imports AllowedImports()
+{
+    return ReadList(true);
+}
+
+Imports NeededImports()
+{
+    return ReadList(false);
 }

@@ -107,10 +107,11 @@ private:
 template <class Interface>
 class Logged : public LoggedObject, public tables::CForwarding<Interface, CallHook>
 {
+    using Forwarding = tables::CForwarding<Interface, CallHook>;
+
 public:
     Logged(LoggedObjects& objects, Interface* soundObject, LoggedObject* itsParent, const std::string& itsPlace)
-        : LoggedObject(soundObject, itsParent, itsPlace), tables::CForwarding<Interface, CallHook>(
-                                                              soundObject, CallHook(objects, *this)),
+        : LoggedObject(soundObject, itsParent, itsPlace), Forwarding(soundObject, CallHook(objects, *this)),
           m_objects(objects)
     {
     }

@@ -213,8 +213,9 @@ TEST(Dialog, TabMovesTheFocus)
 {
     ModalDialog dialog;
     Script script;
-    script.When(
-        "the dialog is shown", [&] { return IsShown(dialog); }, [] { ModalDialog::Press(VK_TAB); });
+    const auto pressTab = [] { ModalDialog::Press(VK_TAB); };
+    const auto isShown = [&] { return IsShown(dialog); };
+    script.When("the dialog is shown", isShown, pressTab);
     script.Then("Tab was handled", [&] {
         EXPECT_EQ(dialog.Item(IDC_OTHER), ::GetFocus());
         dialog.Command(IDCANCEL);

@@ -21,8 +21,8 @@ INT_PTR RunAlone(ModalDialog& dialog)
 INT_PTR RunWith(ModalDialog& dialog, const std::function<void()>& step)
 {
     Script script;
-    script.When(
-        "the dialog is shown", [&] { return IsShown(dialog); }, step);
+    const auto isShown = [&] { return IsShown(dialog); };
+    script.When("the dialog is shown", isShown, step);
     return dialog.DoModal();
 }
 } // namespace test

@@ -68,8 +68,8 @@ protected:
     void RunEditor(const std::function<void()>& action)
     {
         Script script;
-        script.When(
-            "the editor is shown", [this] { return IsShown(editor); }, action);
+        const auto isShown = [this] { return IsShown(editor); };
+        script.When("the editor is shown", isShown, action);
         script.When(
             "the editor is idle", [this] { return editor.IsWindowEnabled(); }, [this] { editor.Command(IDCANCEL); });
         EXPECT_EQ(IDCANCEL, editor.DoModal());
@@ -164,8 +164,8 @@ TEST(NestedPreTranslation, MayRunADialogOfItsOwn)
 {
     Nesting editor;
     Script script;
-    script.When(
-        "the editor is shown", [&] { return IsShown(editor); }, [&] { editor.PostMessage(WM_RBUTTONUP); });
+    const auto isShown = [&] { return IsShown(editor); };
+    script.When("the editor is shown", isShown, [&] { editor.PostMessage(WM_RBUTTONUP); });
     script.When(
         "the inner dialog has ended", [&] { return editor.innerResult == IDOK; }, [&] { editor.Command(IDCANCEL); });
     EXPECT_EQ(IDCANCEL, editor.DoModal());

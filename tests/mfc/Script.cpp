@@ -24,8 +24,8 @@ test::Script::~Script()
 
 test::Script& test::Script::Then(std::string what, std::function<void()> action)
 {
-    return When(
-        std::move(what), [] { return true; }, std::move(action));
+    const auto always = [] { return true; };
+    return When(std::move(what), always, std::move(action));
 }
 
 test::Script& test::Script::When(std::string what, std::function<bool()> condition, std::function<void()> action)

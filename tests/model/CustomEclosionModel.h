@@ -15,11 +15,13 @@ public:
     bool IsSaved() const { return m_isSaved; }
 
 private:
+    using Size = std::uint8_t refhost::EclosionElement::*;
+
     struct Slider
     {
         int id;
         std::size_t element;
-        std::uint8_t refhost::EclosionElement::*size;
+        Size size;
         int position;
     };
 

@@ -18,10 +18,12 @@ public:
     bool AsksForCustomEclosion();
 
 private:
+    using Stored = std::uint8_t refhost::SchemeValues::*;
+
     struct Range
     {
         int edit;
-        std::uint8_t refhost::SchemeValues::*stored;
+        Stored stored;
         std::wstring text = L"0";
         int member = 0;
     };

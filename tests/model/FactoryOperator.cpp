@@ -30,7 +30,7 @@ void FactoryOperator::UseMenu()
         const bool isAsked = m_model.OpenPrompts() > 0;
         Listen();
         // A prompt that has closed just before may end the menu by its last change of the focus.
-        const PopupMenu menu(Op(), isAsked ? Op().OpenMenu().Handle() : m_editor.OpenedMenu().Handle());
+        const PopupMenu menu(Op(), isAsked ? Op().OpenMenu().Handle() : m_editor.OpenedMenuOn(row).Handle());
         if (copies && !isAsked)
             menu.Choose(0);
         else

@@ -15,10 +15,12 @@ public:
     void AddTo(std::vector<Shown>& display) const override;
 
 private:
+    using Stored = std::uint8_t refhost::SchemeValues::*;
+
     struct Lamp
     {
         int check;
-        std::uint8_t refhost::SchemeValues::*stored;
+        Stored stored;
         bool isOn = false;
     };
 

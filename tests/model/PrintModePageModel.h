@@ -26,12 +26,15 @@ public:
     void AddTo(std::vector<Shown>& display) const;
 
 private:
+    using Values = std::vector<float> refhost::PrintMode::*;
+    using Switches = std::vector<bool> refhost::PrintMode::*;
+
     // A compensation value: its field shows the value for the group in its combo box.
     struct Value
     {
         int group;
         int edit;
-        std::vector<float> refhost::PrintMode::*stored;
+        Values stored;
         int groupRow = -1;
         std::wstring text = L"0";
         float member = 0;
@@ -41,7 +44,7 @@ private:
     {
         int group;
         int combo;
-        std::vector<bool> refhost::PrintMode::*stored;
+        Switches stored;
         int groupRow = -1;
         int row = 0;
     };

@@ -14,6 +14,9 @@
 // gives out stays readable until it goes; a text is readable until the next call on its object only.
 class HostileHost
 {
+    template <class Operation, class Interface>
+    using Member = Operation Interface::*;
+
 public:
     HostileHost(LoggedHost& sound, const Temper& temper);
     ~HostileHost();
@@ -22,7 +25,7 @@ public:
     IHostControl* Control() { return Wrap(m_sound.Control()); }
     // Done once, within the first call of the operation that is not counted off by the number before.
     template <class Interface, class Operation>
-    void Within(Operation Interface::*operation, std::function<void()> action, unsigned callsBefore = 0)
+    void Within(Member<Operation, Interface> operation, std::function<void()> action, unsigned callsBefore = 0)
     {
         m_awaited = {HostileTable<Interface>(), PositionOf(operation), callsBefore, std::move(action)};
     }
@@ -30,7 +33,7 @@ public:
     bool HasActed() const { return !m_awaited.action; }
     // From now on the operation gives this number, whatever it is asked.
     template <class Interface, class Operation>
-    void Always(Operation Interface::*operation, std::uint32_t number)
+    void Always(Member<Operation, Interface> operation, std::uint32_t number)
     {
         m_fixed[{HostileTable<Interface>(), PositionOf(operation)}] = number;
     }

@@ -63,8 +63,8 @@ TEST_F(MeddlingHost, LosesAConfigurationBetweenTwoQuestions)
     for (bool wasCalled = true; wasCalled; ++calls)
     {
         SCOPED_TRACE(calls);
-        m_host.Within(
-            &IConfigList::GetAt, [this] { m_host.GiveNull(); }, calls);
+        const auto giveNull = [this] { m_host.GiveNull(); };
+        m_host.Within(&IConfigList::GetAt, giveNull, calls);
         Run<FactoryEditor>([](const FactoryEditor& editor) {
             if (editor.Schemes().RowCount() > 1)
                 editor.Schemes().ClickRow(1);

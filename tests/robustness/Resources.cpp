@@ -2,6 +2,7 @@
 
 #include "tests/support/WineVersion.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <stdexcept>
 #include <vector>
@@ -10,7 +11,7 @@
 
 extern "C" PVOID NTAPI RtlGetCurrentPeb();
 
-// Wine 8 gives 0 for GetGuiResources and GetProcessHandleCount, so there the objects are counted where it keeps them:
+// Wine gives 0 for GetGuiResources and GetProcessHandleCount, so there the objects are counted where it keeps them:
 // GDI's in the table that a process shares with the system, handles in the system's list of all, menus by asking.
 namespace
 {
@@ -124,6 +125,42 @@ long CountHandles()
     return IsWine() ? CountHandlesOfWine() : static_cast<long>(count);
 }
 
+// A walk over Wine's heap meets a whole group of small blocks as one block: 31 of one size, each behind its header.
+struct SmallBlock
+{
+    std::uint16_t size; // with this header, in units of two pointers
+    std::uint16_t number;
+    std::uint16_t unused;
+    std::uint8_t type;
+    std::uint8_t flags;
+};
+static_assert(sizeof(SmallBlock) == 8);
+
+constexpr std::size_t kGroupHeader = sizeof(void*) == 8 ? 24 : 16;
+constexpr std::size_t kBlocksInGroup = 31;
+constexpr std::uint8_t kUsed = 'u', kFree = 'F';
+
+// 1 for any block that is no group.
+long CountBlocksIn(const PROCESS_HEAP_ENTRY& entry)
+{
+    if (entry.cbData < kGroupHeader + sizeof(SmallBlock))
+        return 1;
+    const char* const start = static_cast<const char*>(entry.lpData) + kGroupHeader;
+    const auto& first = *reinterpret_cast<const SmallBlock*>(start);
+    const std::size_t size = first.size * 2 * sizeof(void*);
+    if (size == 0 || (entry.cbData - kGroupHeader) / size != kBlocksInGroup)
+        return 1;
+    long used = 0;
+    for (std::size_t i = 0; i < kBlocksInGroup; ++i)
+    {
+        const auto& block = *reinterpret_cast<const SmallBlock*>(start + i * size);
+        if (block.size != first.size || (block.type != kUsed && block.type != kFree))
+            return 1;
+        used += block.type == kUsed;
+    }
+    return used;
+}
+
 long CountHeapBlocks()
 {
     const HANDLE heap = GetProcessHeap();
@@ -131,7 +168,8 @@ long CountHeapBlocks()
     long count = 0;
     HeapLock(heap);
     while (HeapWalk(heap, &entry))
-        count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+        if (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY)
+            count += IsWine() ? CountBlocksIn(entry) : 1;
     HeapUnlock(heap);
     return count;
 }
@@ -141,6 +179,13 @@ Resources Resources::Held()
 {
     const long windows = CountWindows();
     return {CountGdiObjects(), windows, CountMenus(windows), CountHandles(), CountHeapBlocks()};
+}
+
+Resources Least(const Resources& left, const Resources& right)
+{
+    return {std::min(left.gdiObjects, right.gdiObjects), std::min(left.windows, right.windows),
+            std::min(left.menus, right.menus), std::min(left.handles, right.handles),
+            std::min(left.heapBlocks, right.heapBlocks)};
 }
 
 Resources operator-(const Resources& left, const Resources& right)

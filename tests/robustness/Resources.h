@@ -6,8 +6,8 @@
 struct Resources
 {
     static Resources Held();
-    // Anything but heap blocks.
-    bool HasObjects() const { return gdiObjects != 0 || windows != 0 || menus != 0 || handles != 0; }
+    // More of anything but heap blocks than nothing.
+    bool HasObjects() const { return gdiObjects > 0 || windows > 0 || menus > 0 || handles > 0; }
 
     long gdiObjects;
     long windows; // of this thread, those for messages alone included
@@ -16,5 +16,7 @@ struct Resources
     long heapBlocks;
 };
 
+// The lower of both numbers of each kind.
+Resources Least(const Resources& left, const Resources& right);
 Resources operator-(const Resources& left, const Resources& right);
 std::ostream& operator<<(std::ostream& stream, const Resources& resources);

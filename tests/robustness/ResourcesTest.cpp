@@ -1,6 +1,7 @@
 #include "tests/robustness/Resources.h"
 
 #include <gtest/gtest.h>
+#include <vector>
 #include <windows.h>
 
 // What is not counted could leak unseen.
@@ -17,7 +18,8 @@ protected:
         return CreateWindowExW(0, L"STATIC", nullptr, style, 0, 0, 1, 1, parent, nullptr, nullptr, nullptr);
     }
 
-    long Grown(long Resources::*count) const { return (Resources::Held() - m_before).*count; }
+    using Count = long Resources::*;
+    long Grown(Count count) const { return (Resources::Held() - m_before).*count; }
 
 private:
     // With a thread's first window come others of the system's, and they go with its last one.
@@ -71,6 +73,18 @@ TEST_F(HeldResources, CountBlocksOfTheProcessesHeap)
     void* const block = HeapAlloc(GetProcessHeap(), 0, 100);
     EXPECT_EQ(Grown(&Resources::heapBlocks), 1);
     HeapFree(GetProcessHeap(), 0, block);
+    EXPECT_EQ(Grown(&Resources::heapBlocks), 0);
+}
+
+// So many of one size that the system keeps them together.
+TEST_F(HeldResources, CountEachSmallBlockOfTheProcessesHeap)
+{
+    std::vector<void*> blocks(10000);
+    for (void*& block : blocks)
+        block = HeapAlloc(GetProcessHeap(), 0, 40);
+    EXPECT_EQ(Grown(&Resources::heapBlocks), static_cast<long>(blocks.size()));
+    for (void* block : blocks)
+        HeapFree(GetProcessHeap(), 0, block);
     EXPECT_EQ(Grown(&Resources::heapBlocks), 0);
 }
 } // namespace

@@ -32,75 +32,32 @@ public:
     explicit Temper(unsigned seed);
 
     // A host that throws across a table can be met only where the unwinder knows the frames of both modules.
-#if defined(__i386__)
-    static constexpr bool kCanThrow = false;
-#else
-    static constexpr bool kCanThrow = true;
-#endif
+    static constexpr bool kCanThrow = sizeof(void*) == 8;
 
     // One call more. Until the quiet calls at the beginning are over, every chance fails.
-    void CountCall()
-    {
-        ++m_calls;
-    }
+    void CountCall() { ++m_calls; }
 
-    bool GivesNull()
-    {
-        return Happens(Fault::Null);
-    }
-    bool GivesAnotherObject()
-    {
-        return Happens(Fault::AnotherObject);
-    }
-    bool GivesText()
-    {
-        return Happens(Fault::Text);
-    }
-    bool GivesNumber()
-    {
-        return Happens(Fault::Number);
-    }
-    bool GivesCount()
-    {
-        return Happens(Fault::Count);
-    }
-    bool Throws()
-    {
-        return kCanThrow && Happens(Fault::Exception);
-    }
-    bool DispatchesMessages()
-    {
-        return Happens(Fault::Messages);
-    }
-    bool LosesObjects()
-    {
-        return Happens(Fault::Loss);
-    }
-    bool IgnoresChange()
-    {
-        return Happens(Fault::IgnoredChange);
-    }
+    bool GivesNull() { return Happens(Fault::Null); }
+    bool GivesAnotherObject() { return Happens(Fault::AnotherObject); }
+    bool GivesText() { return Happens(Fault::Text); }
+    bool GivesNumber() { return Happens(Fault::Number); }
+    bool GivesCount() { return Happens(Fault::Count); }
+    bool Throws() { return kCanThrow && Happens(Fault::Exception); }
+    bool DispatchesMessages() { return Happens(Fault::Messages); }
+    bool LosesObjects() { return Happens(Fault::Loss); }
+    bool IgnoresChange() { return Happens(Fault::IgnoredChange); }
 
     std::uint32_t Count(std::uint32_t sound);
     std::uint64_t Number();
     float Float();
     std::string Text();
-    std::uint32_t Bits()
-    {
-        return m_chance.Bits();
-    }
+    std::uint32_t Bits() { return m_chance.Bits(); }
     // Which of so many.
-    std::uint32_t Below(std::uint32_t count)
-    {
-        return m_chance.Below(count);
-    }
+    std::uint32_t Below(std::uint32_t count) { return m_chance.Below(count); }
 
     std::string Describe() const;
     // How often each fault has happened.
-    const FaultCounts& Happened() const
-    {
-        return m_happened;
-    }
+    const FaultCounts& Happened() const { return m_happened; }
 
 private:
     // In a thousand calls.

@@ -3,7 +3,7 @@
 # tests there. Kits with planted faults must tell of them.
 . "$(dirname "$0")/../lib/common.sh"
 . "$project/tools/lib/screen.sh"
-. "$project/tools/lib/x86-root.sh"
+. "$project/tools/lib/debian-root.sh"
 . "$project/tools/lib/test-kit.sh"
 
 arch=$1 status=0
@@ -53,11 +53,7 @@ make_kits() {
 run_kits() {
     start_screen
     trap stop_screen EXIT
-    if [ "$arch" = x86 ] && ! system_has_wine32; then
-        x86_enter "$(id -u):$(id -g)" bash /quorvane/tools/lib/run-kit.sh x86
-    else
-        "$project/tools/lib/run-kit.sh" "$arch"
-    fi
+    with_wine_of "$own_suite" "$arch" tools/lib/run-kit.sh "$arch"
 }
 
 complain() {

@@ -22,8 +22,8 @@ as_root() {
     fi
 }
 
-# become_root_possible: whether as_root can work.
-become_root_possible() { [ "$(id -u)" -eq 0 ] || command -v sudo >/dev/null; }
+# become_root_possible: whether as_root can work. Not every user may use sudo.
+become_root_possible() { [ "$(id -u)" -eq 0 ] || { command -v sudo >/dev/null && sudo true 2>/dev/null; }; }
 
 is_installed() { dpkg-query --show --showformat '${db:Status-Status}\n' "$1" 2>/dev/null | grep -qx installed; }
 
@@ -34,7 +34,7 @@ install_missing() {
         is_installed "$package" || missing+=("$package")
     done
     [ ${#missing[@]} -gt 0 ] || return 0
-    become_root_possible || die "these packages are missing, and neither root nor sudo is available: ${missing[*]}"
+    become_root_possible || die "these packages are missing, and this user is not root and may not use sudo: ${missing[*]}"
     say "Installing: ${missing[*]}"
     as_root apt-get update -q >"$build/apt.log" 2>&1 || die "apt-get update failed, see $build/apt.log"
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y --no-install-recommends "${missing[@]}" \

@@ -15,15 +15,19 @@ count_check() {
     fi
 }
 
-# count_suite ARCH
+# count_suite RUN
 count_suite() {
-    local program
+    local program results
+    results=$(results_of "$1")
     while read -r program; do
-        count_program "$1" "$program" "$build/$1/results/$program"
-    done <"$build/$1/programs.list"
+        count_program "$1" "$program" "$results/$program"
+    done <"$results/programs.list"
 }
 
-# count_program ARCH PROGRAM FILES
+# cases_run XML: 0 where the file is missing.
+cases_run() { cat "$1" 2>/dev/null | grep -c '<testcase .*status="run"' || true; }
+
+# count_program RUN PROGRAM FILES
 count_program() {
     local title="$1 $2" log=$3.log xml=$3.xml status
     status=$(cat "$3.status" 2>/dev/null || echo "none, it was never started")
@@ -40,7 +44,7 @@ count_program() {
 # count_finished TITLE XML STATUS
 count_finished() {
     local run bad left
-    run=$(grep -c '<testcase .*status="run"' "$2" || true)
+    run=$(cases_run "$2")
     left=$(grep -c '<testcase .*result="skipped"' "$2" || true)
     bad=$(sed -n 's/.*<testsuites .* failures="\([0-9]*\)".*/\1/p' "$2")
     if [ "$bad" -eq 0 ] && [ "$3" != 0 ]; then

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # run-bench.sh ARCH ROUNDS ONLY: measures a build under Wine, on the current DISPLAY. ONLY may be empty. Leaves the
-# tables and all figures in build/bench. Runs on this system and inside the i386 system.
+# tables and all figures in build/bench. Runs on this system and inside a root.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/lib/wine.sh"
 

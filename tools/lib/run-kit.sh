@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # run-kit.sh ARCH: runs every test kit in build/ARCH/kits under Wine, on the current DISPLAY, from a fresh drive C. The
 # file "arguments" in a kit has one argument of its run.cmd in each line. Leaves log, status and report.html in the kit.
-# Runs on this system and inside the i386 system alike.
+# Runs on this system and inside a root alike.
 . "$(dirname "$0")/common.sh"
 . "$project/tools/lib/wine.sh"
 

@@ -1,5 +1,5 @@
 # shellcheck shell=bash
-# The project's own Wine prefixes, below build/wine. Source it; do not run it.
+# The project's own Wine prefixes, below build/wine, apart for each version of Wine. Source it; do not run it.
 
 declare -A wine_arch=([x64]=win64 [x64-checked]=win64 [x86]=win32)
 
@@ -10,13 +10,15 @@ wine_environment() {
     export WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
 }
 
-# fresh_prefix ARCH NAME SETTINGS...: replaces build/wine/NAME by a copy of a pristine prefix, applies settings (files
+# fresh_prefix ARCH NAME SETTINGS...: replaces the prefix of this name by a copy of a pristine one, applies settings (files
 # of this folder), and makes it the current prefix.
 fresh_prefix() {
-    local arch=$1 prefix=$build/wine/$2 pristine=$build/wine/${wine_arch[$1]}.pristine settings
+    local arch=$1 folder prefix pristine settings
+    folder=$build/wine/$(wine --version 2>/dev/null | cut -d ' ' -f 1)
+    prefix=$folder/$2 pristine=$folder/${wine_arch[$1]}.pristine
     shift 2
     wine_environment "$arch" "$prefix"
-    mkdir -p "$build/wine"
+    mkdir -p "$folder"
     # All runs for one kind of Windows share the pristine prefix; the first one makes it.
     (flock 9 && WINEPREFIX=$pristine provide_pristine_prefix "$pristine") 9>"$pristine.lock"
     rm -rf "$prefix"

@@ -21,13 +21,25 @@ void FactoryEditor::Apply() const
 PopupMenu FactoryEditor::OpenMenuOn(int row) const
 {
     Schemes().RightClickRow(row);
-    return OpenedMenu();
+    return OpenedMenuOn(row);
 }
 
 PopupMenu FactoryEditor::OpenedMenu() const
 {
     Op().WaitFor("the menu to open", [this] { return Op().OpenMenu().Exists(); });
     return {Op(), Op().OpenMenu().Handle()};
+}
+
+PopupMenu FactoryEditor::OpenedMenuOn(int row) const
+{
+    for (int i = 1; i < kMenuAttempts; ++i)
+    {
+        Op().Settle();
+        if (Op().OpenMenu().Exists())
+            break;
+        Schemes().RightClickRow(row);
+    }
+    return OpenedMenu();
 }
 
 Window FactoryEditor::OpenCopyDialog(int row) const

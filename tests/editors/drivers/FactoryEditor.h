@@ -15,6 +15,8 @@ public:
     // Lets the right button go over a row of the scheme list; the menu opens.
     PopupMenu OpenMenuOn(int row) const;
     PopupMenu OpenedMenu() const;
+    // The same, once more where the menu has closed by itself.
+    PopupMenu OpenedMenuOn(int row) const;
     // By the menu of the row.
     Window OpenCopyDialog(int row) const;
     Window ExpectCopyDialog() const;

@@ -126,20 +126,23 @@ TEST_F(SecondEditor, IsRefusedOnAnotherThread)
     });
 }
 
+std::function<void()> onTime;
+
+void CALLBACK Tick(HWND, UINT, UINT_PTR timer, DWORD)
+{
+    KillTimer(nullptr, timer);
+    onTime();
+}
+
 TEST_F(SecondEditor, IsRefusedFromATimer)
 {
-    static std::function<void()> onTime;
     bool isOver = false;
     onTime = [&] {
         ExpectRefused();
         isOver = true;
     };
-    const auto tick = [](HWND, UINT, UINT_PTR timer, DWORD) {
-        KillTimer(nullptr, timer);
-        onTime();
-    };
     Run([&](PrintModeEditor& editor) {
-        editor.Op().OnUi([&] { SetTimer(nullptr, 0, USER_TIMER_MINIMUM, tick); });
+        editor.Op().OnUi([&] { SetTimer(nullptr, 0, USER_TIMER_MINIMUM, &Tick); });
         editor.Op().WaitFor("the timer", [&] { return isOver; });
         editor.Cancel();
     });

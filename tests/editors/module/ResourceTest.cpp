@@ -231,16 +231,6 @@ TEST(DialogTemplates, ComboBoxesAreUnsortedDropDownLists)
     });
 }
 
-// A stray group style ends a run of radio buttons or catches the arrow keys.
-TEST(DialogTemplates, FieldsBeginNoGroups)
-{
-    const auto beginsNoGroup = [](const TemplateControl& control, const std::string& where) {
-        EXPECT_FALSE(control.style & WS_GROUP) << where;
-    };
-    for (const wchar_t* className : {L"Edit", L"ComboBox", L"ListBox"})
-        ForEachControl(className, beginsNoGroup);
-}
-
 TEST(DialogTemplates, HaveTheirOkButtonAsTheDefault)
 {
     ForEachControl(L"Button", [](const TemplateControl& control, const std::string& where) {

@@ -14,9 +14,10 @@ const Calls kSaved = {"IHostControl.SaveParameters(2)"};
 class EditorFocus : public PrintModeFixture
 {
 protected:
+    static void Cancel(PrintModeEditor& editor) { editor.Cancel(); }
+
     // Types a compensation and lets the script take the focus away.
-    void LeaveValue(
-        const Script& leave, const Script& quit = [](PrintModeEditor& editor) { editor.Cancel(); })
+    void LeaveValue(const Script& leave, const Script& quit = Cancel)
     {
         Run([&](PrintModeEditor& editor) {
             editor.Edit(IDC_EDIT_SMALL).Type(L"1.5");
