@@ -9,8 +9,8 @@ class IHostData;
 ///
 /// Order of calls: NewInterface; then any of the three editor operations, as often as you like, but one at a time; then
 /// ReleaseInterface. Each editor operation opens one modal dialog and returns when the dialog is closed. An operation
-/// that is called while an editor is open, by any object, on any thread, from a host's operation too, returns 0 at once:
-/// it shows nothing, calls nothing and leaves the open editor as it is.
+/// that is called while an editor is open, by any object, on any thread, from a host's operation too, returns 0 at
+/// once: it shows nothing, calls nothing and leaves the open editor as it is.
 ///
 /// Thread: make every call on the host's user-interface thread. The library calls the host objects on that thread,
 /// while the editor operation runs and never afterwards. The host objects must live until the operation returns.
