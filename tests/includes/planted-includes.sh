@@ -38,8 +38,9 @@ make_tree() {
     write dialogs/printmode/Mode.cpp "${page[@]}"
     write dialogs/scheme/Scheme.h "${page[@]}"
     write dialogs/user/User.h "${page[@]}" dialogs/scheme/Scheme.h
-    write frame/ModalRunner.h "${framework[@]}" frame/CommonControls.h
+    write frame/ModalRunner.h "${framework[@]}" frame/CommonControls.h frame/DpiAwareness.h
     write frame/CommonControls.h "<windows.h>"
+    write frame/DpiAwareness.h "<windows.h>"
     write frame/Frame.cpp "${framework[@]}" dialogs/user/User.h dialogs/data/Data.h host/Host.h frame/ModalRunner.h
     write refhost/Machine.h host/Host.h "<nlohmann/json.hpp>" "<windows.h>"
     write refhost/program/Main.cpp refhost/Machine.h host/Host.h "<commdlg.h>"
@@ -90,6 +91,7 @@ refused frame/ModalRunner.h '#include "dialogs/base/Base.h"'
 refused frame/ModalRunner.h '#include "dialogs/data/Data.h"'
 refused frame/ModalRunner.h '#include "frame/Frame.cpp"'
 refused frame/CommonControls.h '#include "dialogs/user/User.h"'
+refused frame/DpiAwareness.h '#include "dialogs/user/User.h"'
 refused frame/Frame.cpp '#include "refhost/Machine.h"'
 refused refhost/Machine.h '#include "dialogs/data/Data.h"'
 refused refhost/Machine.h '#include <afxwin.h>'

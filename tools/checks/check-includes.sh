@@ -28,7 +28,7 @@ declare -A arrows=(
 # piece_of PATH: sets piece; empty for a file of no known folder.
 piece_of() {
     case "$1" in
-    frame/ModalRunner.* | frame/CommonControls.*) piece=modal ;;
+    frame/ModalRunner.* | frame/CommonControls.* | frame/DpiAwareness.*) piece=modal ;;
     *)
         piece=${1%/*}
         while [ -z "${arrows[$piece]+set}" ] && [[ $piece == */* ]]; do piece=${piece%/*}; done
