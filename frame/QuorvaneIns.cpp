@@ -17,8 +17,8 @@ namespace
 // that record, so the thread gets it before anything can be thrown.
 bool ProvideExceptionRecord()
 {
-    constexpr std::size_t plenty = 4096;
-    if (!std::unique_ptr<char[]>(new (std::nothrow) char[plenty]))
+    constexpr std::size_t PLENTY = 4096;
+    if (!std::unique_ptr<char[]>(new (std::nothrow) char[PLENTY]))
         return false;
     (void)std::current_exception(); // looks into the record
     return true;

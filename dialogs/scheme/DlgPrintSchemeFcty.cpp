@@ -9,17 +9,17 @@
 namespace
 {
 // Sent to the dialog itself, so that an exception of the host's ends the handler and not the editor.
-UINT WM_RIGHT_BUTTON_WENT_UP = 0;
+UINT rightButtonWentUp = 0;
 } // namespace
 
 CDlgPrintSchemeFcty::CDlgPrintSchemeFcty() : CDlgSchemeEditor(IDD_SCHEME_FACTORY, FALSE)
 {
-    WM_RIGHT_BUTTON_WENT_UP = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
+    rightButtonWentUp = ::RegisterWindowMessage(L"QuorvaneRightButtonWentUp");
 }
 
 BEGIN_MESSAGE_MAP(CDlgPrintSchemeFcty, CDlgSchemeEditor)
     ON_COMMAND(IDM_COPY_SCHEME, &CDlgPrintSchemeFcty::OnCopyScheme)
-    ON_REGISTERED_MESSAGE(WM_RIGHT_BUTTON_WENT_UP, &CDlgPrintSchemeFcty::OnRightButtonUp)
+    ON_REGISTERED_MESSAGE(rightButtonWentUp, &CDlgPrintSchemeFcty::OnRightButtonUp)
 END_MESSAGE_MAP()
 
 int CDlgPrintSchemeFcty::ApplyLanguage()
@@ -42,7 +42,7 @@ void CDlgPrintSchemeFcty::AddPages()
 BOOL CDlgPrintSchemeFcty::PreTranslateMessage(MSG* pMsg)
 {
     if (pMsg->message == WM_RBUTTONUP)
-        SendMessage(WM_RIGHT_BUTTON_WENT_UP);
+        SendMessage(rightButtonWentUp);
     return CDlgSchemeEditor::PreTranslateMessage(pMsg);
 }
 
