@@ -13,10 +13,12 @@
 namespace
 {
 std::atomic<bool> isMemoryGone{false};
+// What the library called before: its blocks must come from where it frees them.
+decltype(&std::malloc) originalMalloc;
 
 void* MallocWithoutMemory(std::size_t size)
 {
-    return isMemoryGone ? nullptr : std::malloc(size);
+    return isMemoryGone ? nullptr : originalMalloc(size);
 }
 
 // While it lives, the library gets no memory.
@@ -32,6 +34,9 @@ public:
 class ExceptionBesideSharedRuntime : public PrintModeFixture
 {
 protected:
+    ExceptionBesideSharedRuntime() { originalMalloc = m_malloc.Original<decltype(originalMalloc)>(); }
+
+private:
     ImportHook m_malloc{Library::Loaded().Module(), "malloc", reinterpret_cast<const void*>(&MallocWithoutMemory)};
 };
 
